@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# Measures what a desktop player notices, under Xvfb, after a build (bash scripts/build.sh):
+# start-up to the first shown window and peak memory (against a bare Qt window in the same
+# run), idle CPU over 10 s while the game waits for a roll, and the real length of a roll.
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+build=${BUILD_DIR:-$root/build}
+bin=$build/bin
+xwindow=$build/tests/smoke/xwindow
+bench=$build/bench
+runs=${RUNS:-7}
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+# A copy with a copy of the data file: start-up reads real records, and no run of the
+# measurement writes into the data file beside the built program.
+cp "$bin/Zarvo" "$work/"
+[ -e "$bin/Zarvo.dat" ] && cp "$bin/Zarvo.dat" "$work/"
+
+xvfb-run -a -s "-screen 0 1024x768x24" bash -s "$work" "$bench" "$xwindow" "$runs" <<'INNER'
+set -euo pipefail
+work=$1; bench=$2; xwindow=$3; runs=$4
+median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
+cpu_ticks() { awk '{print $14 + $15}' "/proc/$1/stat"; }
+
+startup() {   # program, window title -> "ms peak_kB"
+  local start pid ms
+  start=$(date +%s%N)
+  "$1" & pid=$!
+  "$xwindow" wait "$2" 20 >/dev/null
+  ms=$(( ($(date +%s%N) - start) / 1000000 ))
+  sleep 0.5
+  echo "$ms $(awk '/VmHWM/ {print $2}' /proc/$pid/status)"
+  kill $pid; wait $pid 2>/dev/null || true
+}
+
+for program in "Zarvo:$work/Zarvo" "Bare:$bench/zarvo_bench_bare"; do
+  title=${program%%:*}; exe=${program#*:}
+  results=$(for _ in $(seq "$runs"); do startup "$exe" "$title"; done)
+  echo "$title: start-up to first shown window, median of $runs: $(echo "$results" | cut -d' ' -f1 | median) ms;" \
+       "peak memory (VmHWM), median: $(echo "$results" | cut -d' ' -f2 | median) kB"
+done
+
+"$work/Zarvo" & pid=$!
+"$xwindow" wait Zarvo 20 >/dev/null
+sleep 1
+before=$(cpu_ticks $pid); sleep 10; after=$(cpu_ticks $pid)
+hz=$(getconf CLK_TCK)
+echo "Zarvo idle while waiting for a roll: $(( after - before )) CPU ticks of 1/$hz s in 10 s" \
+     "($(awk -v t=$(( after - before )) -v hz="$hz" 'BEGIN {printf "%.2f", 100 * t / hz / 10}')% of one core)"
+"$xwindow" close Zarvo; wait $pid || true
+
+"$bench/zarvo_bench_roll"
+INNER

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that Zarvo needs to build, run and test; does nothing when
+# all are there. Uses sudo when not run as root.
+set -euo pipefail
+
+packages=(
+  build-essential cmake            # compiler and build
+  qt6-base-dev libgl-dev           # Qt 6 Widgets (its CMake files need the GL headers)
+  libsqlite3-dev                   # the data file
+  fonts-liberation                 # the windows' font
+  libgtest-dev googletest          # tests
+  xvfb xauth libx11-dev            # the smoke test of the real window
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+sudo=()
+[ "$(id -u)" -eq 0 ] || sudo=(sudo)
+echo "Installing: ${missing[*]}"
+"${sudo[@]}" apt-get update
+"${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"

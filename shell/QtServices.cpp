@@ -1,0 +1,57 @@
+#include "QtServices.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleFactory>
+
+#include "AppPath.h"
+#include "Look.h"
+#include "MsgBox.h"
+#include "Twips.h"
+
+QRect TwipsRect(int left, int top, int width, int height)
+{
+    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+
+int QtMsgBox(const std::string& text, int style, const std::string& title)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(QString::fromStdString(title));
+    QString body = QString::fromStdString(text);
+    body.replace("\r\n", "\n");
+    box.setText(body);
+    switch (style & 0x70) {
+    case vbCritical: box.setIcon(QMessageBox::Critical); break;
+    case vbQuestion: box.setIcon(QMessageBox::Question); break;
+    case vbExclamation: box.setIcon(QMessageBox::Warning); break;
+    case vbInformation: box.setIcon(QMessageBox::Information); break;
+    default: box.setIcon(QMessageBox::NoIcon); break;
+    }
+    if ((style & 7) == vbYesNo) {
+        QPushButton* yes = box.addButton(QMessageBox::Yes);
+        QPushButton* no = box.addButton(QMessageBox::No);
+        box.setDefaultButton((style & vbDefaultButton2) ? no : yes);
+        box.setEscapeButton(no);
+        box.exec();
+        return box.clickedButton() == yes ? vbYes : vbNo;
+    }
+    box.setDefaultButton(box.addButton(QMessageBox::Ok));
+    box.exec();
+    return vbOK;
+}
+
+void InstallQtServices(QApplication& app)
+{
+    SetAppPath(QApplication::applicationDirPath().toStdString());
+    SetMsgBoxHandler(QtMsgBox);
+    app.setStyle(QStyleFactory::create("Fusion"));
+    QPalette palette = app.style()->standardPalette();
+    palette.setColor(QPalette::Window, Look::ButtonFace);
+    palette.setColor(QPalette::Button, Look::ButtonFace);
+    app.setPalette(palette);
+    app.setFont(Look::DefaultFont());
+}

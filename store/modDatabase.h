@@ -1,0 +1,20 @@
+#pragma once
+// The data file "Zarvo.dat" beside the program. Each piece of work opens it, works through
+// gDataDatabase and closes it; no connection stays open between two pieces.
+#include "Database.h"
+
+// The engine session of the open file. SQLite needs none, so it carries nothing; it keeps
+// its place so that the routines read as their documented steps.
+struct Workspace {};
+
+extern Workspace gDataWorkspace;
+extern Database gDataDatabase;
+
+// True when the file is open in gDataDatabase. A file that is missing, unreadable, not a
+// database, damaged, locked by another program for longer than a moment, or without the
+// game's four tables cannot be opened; with ShowError the user is told so. The file is never
+// created and nothing is written to it here.
+bool OpenDataFile(bool ShowError);
+
+// Harmless when the file is already closed, as it is after a nested open and close.
+void CloseDataFile();

@@ -1,0 +1,424 @@
+#include "frmMain.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+
+#include "DieFaces.h"
+#include "Look.h"
+#include "QBColor.h"
+#include "QtServices.h"
+#include "Twips.h"
+#include "modCommon.h"
+#include "modGlobalVars.h"
+
+namespace {
+constexpr int ClientWidth = 4575, ClientHeight = 4560;
+// picDisplayer's sunken border is two pixels wide; its children are placed inside it.
+constexpr int PanelBorderPixels = 2;
+
+QColor Rgb(std::uint32_t rgb) { return QColor::fromRgb(QRgb(rgb)); }
+
+Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
+                Qt::Alignment alignment = Qt::AlignLeft)
+{
+    auto* label = new Label(parent, alignment);
+    label->setGeometry(TwipsRect(left, top, width, height));
+    label->SetCaption(caption);
+    return label;
+}
+
+// Form_KeyDown's key numbers; 0 for keys it does not look at.
+int KeyCodeOf(int qtKey)
+{
+    switch (qtKey) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return vbKeyReturn;
+    case Qt::Key_Left: return vbKeyLeft;
+    case Qt::Key_Up: return vbKeyUp;
+    case Qt::Key_Right: return vbKeyRight;
+    case Qt::Key_Down: return vbKeyDown;
+    default: return 0;
+    }
+}
+}
+
+frmMain::frmMain()
+{
+    setWindowTitle("Zarvo");
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    for (int face = 1; face <= 6; ++face) {
+        ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie));
+        ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDieInv));
+    }
+
+    auto* client = new QWidget(this);
+    client->setFixedSize(TwipsToPixels(ClientWidth), TwipsToPixels(ClientHeight));
+    setCentralWidget(client);
+
+    cmdRoll = new QPushButton("Roll", client);   // created first: first in the tab order
+    cmdRoll->setGeometry(TwipsRect(3120, 4080, 1335, 375));
+    cmdRoll->setToolTip("Roll or accept roll.");
+    cmdRoll->setDefault(true);
+    connect(cmdRoll, &QPushButton::clicked, this, [this] {
+        logic_.cmdRoll_Click();
+        WakeRollTimer();
+    });
+
+    picDisplayer = new QFrame(client);
+    picDisplayer->setGeometry(TwipsRect(150, 120, 4275, 1755));
+    picDisplayer->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    picDisplayer->setLineWidth(PanelBorderPixels);
+    auto* field = new QWidget(picDisplayer);
+    field->setGeometry(picDisplayer->rect().adjusted(PanelBorderPixels, PanelBorderPixels,
+                                                     -PanelBorderPixels, -PanelBorderPixels));
+    CreateDiceField(field);
+
+    fraScoreboard = new Frame(client);
+    fraScoreboard->setGeometry(TwipsRect(120, 1920, 4335, 2055));
+    CreateScoreboard();
+    CreateMenu();
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    layout()->activate();   // fixes the size now, not at the first show
+
+    tmrRoll = new QTimer(this);
+    tmrRoll->setTimerType(Qt::PreciseTimer);
+    tmrRoll->setInterval(RollTickMilliseconds);
+    // Between two ticks the event loop runs every pending click, key and menu command, so a
+    // command given during a roll governs the next tick. The ticks keep coming behind a modal
+    // dialog, as the roll expects. An idle tick does nothing, so the timer sleeps between
+    // rolls instead of waking the machine 66 times a second.
+    connect(tmrRoll, &QTimer::timeout, this, [this] {
+        logic_.tmrRoll_Timer();
+        if (logic_.mRollPhase == 0)
+            tmrRoll->stop();
+    });
+
+    // The window sees the five game keys before any of its controls.
+    qApp->installEventFilter(this);
+}
+
+frmMain::~frmMain() { qApp->removeEventFilter(this); }
+
+void frmMain::CreateDiceField(QWidget* field)
+{
+    // Created from the bottom of the stacking order up: the words, the click zones, the two
+    // prompts, then the dice above everything.
+    new Line(field, 120, 855, 4080, 855, Look::WindowBackground);   // Line8
+    new Line(field, 120, 840, 4080, 840, Look::InactiveTitleBar);   // Line7
+    for (int i = 0; i < 5; ++i) {
+        lblKeep[i] = NewLabel(field, 240 + 840 * i, 960, 375, 255, "Keep", Qt::AlignHCenter);
+        lblRoll[i] = NewLabel(field, 240 + 840 * i, 540, 375, 255, "Roll", Qt::AlignHCenter);
+    }
+    for (int i = 0; i < 5; ++i) {
+        lblDie[i] = NewLabel(field, 840 * i, 0, 855, 1695, "");
+        connect(lblDie[i], &Label::MouseUp, this, [this, i](int button) {
+            logic_.lblDie_MouseUp(i, button);
+            WakeRollTimer();
+        });
+    }
+    lblPleaseRoll = NewLabel(field, 240, 360, 3735, 255, "", Qt::AlignHCenter);
+    lblSelectCategory = NewLabel(field, 240, 1320, 3735, 255, "Please select a scoring category.", Qt::AlignHCenter);
+    for (Label* prompt : {lblPleaseRoll, lblSelectCategory}) {
+        prompt->setFont(Look::CaptionFont());
+        // Only words: a click on them belongs to the die column below.
+        prompt->setAttribute(Qt::WA_TransparentForMouseEvents);
+        prompt->hide();
+    }
+    for (int i = 0; i < 5; ++i) {
+        imgDie[i] = NewLabel(field, DieColumnLeft(i), KeepRow, 615, 615, "");
+        imgDie[i]->SetPicture(ilsDie[i + 1]);
+        connect(imgDie[i], &Label::MouseUp, this, [this, i](int button) {
+            logic_.imgDie_MouseUp(i, button);
+            WakeRollTimer();
+        });
+    }
+    imgDie[2]->raise();   // on the pile, die 2 is the one seen
+    SetDieLabelsVisible(false);
+}
+
+void frmMain::CreateScoreboard()
+{
+    QWidget* frame = fraScoreboard;
+    struct Row { int left, top, width; const char* caption; const char* tip; };
+    static const Row names[CategoryCount] = {
+        {120, 270, 615, "Ones....", "Score total of ones showing."},
+        {120, 510, 615, "Twos....", "Score total of twos showing."},
+        {105, 750, 615, "Threes..", "Score total of threes showing."},
+        {120, 990, 615, "Fours....", "Score total of fours showing."},
+        {120, 1230, 615, "Fives....", "Score total of fives showing."},
+        {120, 1470, 615, "Sixes....", "Score total of sixes showing."},
+        {1305, 270, 1215, "Three of a Kind..", "Three of one die type. (Score total of die showing.)"},
+        {1320, 510, 1215, "Four of a Kind....", "Four of one die type. (Score total of die showing.)"},
+        {1320, 750, 1335, "Full House.........", "Two of a kind + three of a kind. (Score 25.)"},
+        {1320, 990, 1215, "Small Straight....", "1-2-3-4, 2-3-4-5, or 3-4-5-6. (Score 30.)"},
+        {1320, 1230, 1215, "Large Straight...", "1-2-3-4-5 or 2-3-4-5-6. (Score 35.)"},
+        {1320, 1470, 1335, "Zarvo................", "Five of one die type. (Score 50.)"},
+        {1320, 1710, 1335, "Chance.............", "Score total of die showing."},
+    };
+    for (int c = 0; c < CategoryCount; ++c) {
+        lblCategoryNames[c] = NewLabel(frame, names[c].left, names[c].top, names[c].width, 255, names[c].caption);
+        lblCategoryNames[c]->setToolTip(names[c].tip);
+    }
+    lblLeftLbl = NewLabel(frame, 3120, 510, 615, 255, "Left......");
+    lblRightLbl = NewLabel(frame, 3120, 750, 615, 255, "Right....");
+    lblBonusLbl = NewLabel(frame, 3120, 990, 615, 255, "Bonus..");
+    lblTotalLbl = NewLabel(frame, 3120, 1470, 615, 255, "Total....");
+
+    for (int i = 1; i <= 6; ++i) {
+        lblLeft[i] = NewLabel(frame, 720, 270 + 240 * (i - 1), 375, 255, "", Qt::AlignRight);
+        connect(lblLeft[i], &Label::Click, this, [this, i] { logic_.lblLeft_Click(i); });
+    }
+    for (int i = 1; i <= 7; ++i) {
+        lblRight[i] = NewLabel(frame, 2520, 270 + 240 * (i - 1), 375, 255, "", Qt::AlignRight);
+        connect(lblRight[i], &Label::Click, this, [this, i] { logic_.lblRight_Click(i); });
+    }
+    lblLeftTotal = NewLabel(frame, 3720, 510, 375, 255, "", Qt::AlignRight);
+    lblRightTotal = NewLabel(frame, 3720, 750, 375, 255, "", Qt::AlignRight);
+    lblBonusTotal = NewLabel(frame, 3720, 990, 375, 255, "", Qt::AlignRight);
+    lblTotal = NewLabel(frame, 3720, 1470, 375, 255, "", Qt::AlignRight);
+
+    // Grooves: a dark line with a light one beside it.
+    new Line(frame, 1200, 240, 1200, 1920, Look::ApplicationWorkspace);   // Line3
+    new Line(frame, 1215, 240, 1215, 1920, Look::TitleBarText);           // Line5
+    new Line(frame, 3000, 240, 3000, 1920, Look::ApplicationWorkspace);   // Line2
+    new Line(frame, 3015, 240, 3015, 1920, Look::WindowBackground);       // Line4
+    new Line(frame, 3120, 1320, 4200, 1320, Look::InactiveTitleBar);      // Line1
+    new Line(frame, 3120, 1335, 4200, 1335, Look::WindowBackground);      // Line6
+}
+
+void frmMain::CreateMenu()
+{
+    mnuFile = menuBar()->addMenu("&File");
+    mnuNewGame = mnuFile->addAction("&New Game");
+    mnuNewGame->setShortcut(Qt::Key_F3);
+    mnuNewPlayers = mnuFile->addAction("Change &Players...");
+    mnuFile->addSeparator();
+    mnuExit = mnuFile->addAction("E&xit");
+
+    mnuOptions = menuBar()->addMenu("&Options");
+    mnuRememberPlayers = mnuOptions->addAction("&Remember Players");
+    mnuOptions->addSeparator();
+    mnuUseKeyboard = mnuOptions->addAction("Use &Keyboard");
+    mnuUseKeyboard->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
+    mnuScoringPreview = mnuOptions->addAction("Show &Scoring Preview");
+    mnuScoringPreview->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_P));
+    mnuAnimation = mnuOptions->addAction("&Animate Rolling");
+    mnuAnimation->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_A));
+    for (QAction* option : {mnuRememberPlayers, mnuUseKeyboard, mnuScoringPreview, mnuAnimation})
+        option->setCheckable(true);
+    mnuAnimation->setChecked(true);
+    mnuOptions->addSeparator();
+    mnuScoringSummary = mnuOptions->addAction("Scoring Su&mmary...");
+    mnuHighScores = mnuOptions->addAction("&High Scores...");
+
+    mnuHelp = menuBar()->addMenu("&Help");
+    mnuInstructions = mnuHelp->addAction("&Contents...");
+    mnuInstructions->setShortcut(Qt::Key_F1);
+    mnuHelp->addSeparator();
+    mnuAbout = mnuHelp->addAction("&About...");
+
+    connect(mnuNewGame, &QAction::triggered, this, [this] { logic_.StartNewGame(); });
+    connect(mnuExit, &QAction::triggered, this, [this] { Unload(); });
+    // Qt turns a checkable item's mark before it reports the click; these two click routines
+    // turn the mark themselves (the keyboard offer calls one of them too), so give the turn back.
+    connect(mnuUseKeyboard, &QAction::triggered, this, [this](bool checked) {
+        mnuUseKeyboard->setChecked(!checked);
+        logic_.mnuUseKeyboard_Click();
+    });
+    connect(mnuScoringPreview, &QAction::triggered, this, [this](bool checked) {
+        mnuScoringPreview->setChecked(!checked);
+        logic_.mnuScoringPreview_Click();
+    });
+}
+
+void frmMain::Form_Load()
+{
+    if (const QScreen* screen = QApplication::primaryScreen()) {
+        const QRect area = screen->geometry();
+        move(area.x() + (area.width() - width()) / 2, area.y() + (area.height() - height()) / 2);
+    }
+    gKeyboardOffered = false;
+    logic_.mKeyCursor = 2;
+    SetupMarks marks = Marks();
+    LoadSetup(marks);
+    mnuRememberPlayers->setChecked(marks.RememberPlayers);
+    mnuUseKeyboard->setChecked(marks.UseKeyboard);
+    mnuScoringPreview->setChecked(marks.ShowScoringPreview);
+    mnuAnimation->setChecked(marks.AnimateRolling);
+    mnuScoringSummary->setEnabled(gPlayerNames.UBound() > 1);
+    ClearSessionStats();
+    logic_.StartNewGame();
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    // Form_Unload: the setup is saved, and nothing of a game in progress; a running roll
+    // ends with the program.
+    tmrRoll->stop();
+    SaveSetup(Marks());
+    event->accept();
+}
+
+void frmMain::Unload() { close(); }
+
+SetupMarks frmMain::Marks() const
+{
+    return {mnuRememberPlayers->isChecked(), mnuUseKeyboard->isChecked(), mnuScoringPreview->isChecked(),
+            mnuAnimation->isChecked()};
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    auto* widget = qobject_cast<QWidget*>(watched);
+    // Keys for the menu bar (Alt navigation) and for other windows are not the game's.
+    if (!widget || widget->window() != this || qobject_cast<QMenuBar*>(widget))
+        return false;
+    const int code = KeyCodeOf(static_cast<QKeyEvent*>(event)->key());
+    if (code == 0 || logic_.Form_KeyDown(code) != 0)
+        return false;
+    WakeRollTimer();
+    return true;
+}
+
+// A roll starts only from cmdRoll, the dice field or Enter; each of them wakes the timer.
+void frmMain::WakeRollTimer()
+{
+    if (logic_.mRollPhase != 0 && !tmrRoll->isActive())
+        tmrRoll->start();
+}
+
+// ---- TableScreen -------------------------------------------------------------------------
+
+QWidget* frmMain::ControlWidget(Control c) const
+{
+    switch (c) {
+    case Control::cmdRoll: return cmdRoll;
+    case Control::picDisplayer: return picDisplayer;
+    case Control::lblPleaseRoll: return lblPleaseRoll;
+    case Control::lblSelectCategory: return lblSelectCategory;
+    case Control::fraScoreboard: return fraScoreboard;
+    case Control::lblLeftTotal: return lblLeftTotal;
+    case Control::lblRightTotal: return lblRightTotal;
+    case Control::lblBonusTotal: return lblBonusTotal;
+    case Control::lblTotal: return lblTotal;
+    }
+    return nullptr;
+}
+
+std::string frmMain::Caption(Control c) const
+{
+    QWidget* w = ControlWidget(c);
+    if (auto* label = qobject_cast<Label*>(w))
+        return label->Caption().toStdString();
+    if (w == cmdRoll)
+        return cmdRoll->text().toStdString();
+    return fraScoreboard->Caption().toStdString();
+}
+
+void frmMain::SetCaption(Control c, const std::string& text)
+{
+    QWidget* w = ControlWidget(c);
+    const QString caption = QString::fromStdString(text);
+    if (auto* label = qobject_cast<Label*>(w))
+        label->SetCaption(caption);
+    else if (w == cmdRoll)
+        cmdRoll->setText(caption);
+    else
+        fraScoreboard->SetCaption(caption);
+}
+
+// A control's own Visible flag, also before the window is shown.
+bool frmMain::Visible(Control c) const { return !ControlWidget(c)->isHidden(); }
+void frmMain::SetVisible(Control c, bool visible) { ControlWidget(c)->setVisible(visible); }
+bool frmMain::Enabled(Control c) const { return ControlWidget(c)->isEnabled(); }
+void frmMain::SetEnabled(Control c, bool enabled) { ControlWidget(c)->setEnabled(enabled); }
+
+bool frmMain::DieLabelsVisible() const { return !lblKeep[0]->isHidden(); }
+
+void frmMain::SetDieLabelsVisible(bool visible)
+{
+    for (int i = 0; i < 5; ++i) {
+        lblKeep[i]->setVisible(visible);
+        lblRoll[i]->setVisible(visible);
+    }
+}
+
+int frmMain::DieLeft(int i) const { return PixelsToTwips(imgDie[i]->x()); }
+void frmMain::SetDieLeft(int i, int left) { imgDie[i]->move(TwipsToPixels(left), imgDie[i]->y()); }
+int frmMain::DieTop(int i) const { return PixelsToTwips(imgDie[i]->y()); }
+void frmMain::SetDieTop(int i, int top) { imgDie[i]->move(imgDie[i]->x(), TwipsToPixels(top)); }
+void frmMain::SetDieVisible(int i, bool visible) { imgDie[i]->setVisible(visible); }
+
+void frmMain::SetDiePicture(int i, ImageList list, int face)
+{
+    if (face >= 1 && face <= 6)
+        imgDie[i]->SetPicture(list == ImageList::ilsDie ? ilsDie[face] : ilsDieInv[face]);
+}
+
+void frmMain::RefreshDie(int i) { imgDie[i]->repaint(); }
+
+Label* frmMain::Cell(int category) const
+{
+    return category <= CatSixes ? lblLeft[category] : lblRight[category - 6];
+}
+
+std::string frmMain::CellCaption(int category) const { return Cell(category)->Caption().toStdString(); }
+void frmMain::SetCellCaption(int category, const std::string& text)
+{
+    Cell(category)->SetCaption(QString::fromStdString(text));
+}
+int frmMain::CellBorderStyle(int category) const { return Cell(category)->BorderStyle(); }
+void frmMain::SetCellBorderStyle(int category, int style) { Cell(category)->SetBorderStyle(style); }
+int frmMain::CellTop(int category) const { return PixelsToTwips(Cell(category)->y()); }
+void frmMain::SetCellTop(int category, int top)
+{
+    Cell(category)->move(Cell(category)->x(), TwipsToPixels(top));
+}
+void frmMain::SetCellBackStyle(int category, int style) { Cell(category)->SetBackStyle(style); }
+void frmMain::SetCellBackColor(int category, std::uint32_t rgb) { Cell(category)->SetBackColor(Rgb(rgb)); }
+void frmMain::SetCellForeColor(int category, std::uint32_t rgb) { Cell(category)->SetForeColor(Rgb(rgb)); }
+void frmMain::SetCellToolTip(int category, const std::string& text)
+{
+    Cell(category)->setToolTip(QString::fromStdString(text));
+}
+
+QAction* frmMain::OptionItem(Option option) const
+{
+    switch (option) {
+    case Option::RememberPlayers: return mnuRememberPlayers;
+    case Option::UseKeyboard: return mnuUseKeyboard;
+    case Option::ShowScoringPreview: return mnuScoringPreview;
+    case Option::AnimateRolling: return mnuAnimation;
+    }
+    return nullptr;
+}
+
+bool frmMain::Checked(Option option) const { return OptionItem(option)->isChecked(); }
+void frmMain::SetChecked(Option option, bool checked) { OptionItem(option)->setChecked(checked); }
+
+void frmMain::SetFocusOnForm()
+{
+    if (!isVisible())
+        return;   // not on the screen yet, as during start-up
+    activateWindow();
+    centralWidget()->setFocus();
+}
+
+// The dialogs of the end of a card and of a game come with their own windows; until then the
+// game shows none of them, and a finished game waits for File > New Game.
+void frmMain::ShowPlayerResults() {}
+void frmMain::CheckHighScore(int) {}
+void frmMain::ShowSummary() {}
+void frmMain::ShowNewGamePrompt() {}
+void frmMain::ShowChangePlayers() {}

@@ -1,0 +1,108 @@
+#pragma once
+// The game table window: the dice field, the current player's card, cmdRoll and the menu.
+// The game's rules are in GameTable (core); this window gives them its controls through
+// TableScreen and routes the clicks, keys, menu commands and timer ticks to them.
+#include <QMainWindow>
+#include <array>
+
+#include "Frame.h"
+#include "GameTable.h"
+#include "Label.h"
+#include "SavedSetup.h"
+
+class QAction;
+class QFrame;
+class QMenu;
+class QPushButton;
+class QTimer;
+
+// The real period of a tick of tmrRoll. The roll asks for 1 ms, but ticks faster than the
+// screen refreshes are never seen: at 15 ms, about one frame of a 60 Hz display, a first roll
+// of 45 ticks takes about 0.68 s, long enough to watch the dice tumble and short enough not
+// to keep a player waiting.
+constexpr int RollTickMilliseconds = 15;
+
+class frmMain : public QMainWindow, public TableScreen {
+    Q_OBJECT
+public:
+    frmMain();
+    ~frmMain() override;
+
+    void Form_Load();
+    GameTable& Logic() { return logic_; }
+
+    // The controls, by their documented names; index bases as documented.
+    QFrame* picDisplayer = nullptr;
+    Frame* fraScoreboard = nullptr;
+    QPushButton* cmdRoll = nullptr;
+    std::array<Label*, 5> imgDie{}, lblDie{}, lblRoll{}, lblKeep{};
+    Label* lblSelectCategory = nullptr;
+    Label* lblPleaseRoll = nullptr;
+    std::array<Label*, 7> lblLeft{};    // 1..6
+    std::array<Label*, 8> lblRight{};   // 1..7
+    std::array<Label*, 13> lblCategoryNames{};   // lblOnes .. lblChanceLbl, in category order
+    Label *lblLeftLbl = nullptr, *lblRightLbl = nullptr, *lblBonusLbl = nullptr, *lblTotalLbl = nullptr;
+    Label *lblLeftTotal = nullptr, *lblRightTotal = nullptr, *lblBonusTotal = nullptr, *lblTotal = nullptr;
+    QTimer* tmrRoll = nullptr;
+    std::array<QPixmap, 7> ilsDie, ilsDieInv;   // 1..6
+
+    QMenu *mnuFile = nullptr, *mnuOptions = nullptr, *mnuHelp = nullptr;
+    QAction *mnuNewGame = nullptr, *mnuNewPlayers = nullptr, *mnuExit = nullptr;
+    QAction *mnuRememberPlayers = nullptr, *mnuUseKeyboard = nullptr, *mnuScoringPreview = nullptr,
+            *mnuAnimation = nullptr;
+    QAction *mnuScoringSummary = nullptr, *mnuHighScores = nullptr;
+    QAction *mnuInstructions = nullptr, *mnuAbout = nullptr;
+
+    // TableScreen.
+    std::string Caption(Control c) const override;
+    void SetCaption(Control c, const std::string& text) override;
+    bool Visible(Control c) const override;
+    void SetVisible(Control c, bool visible) override;
+    bool Enabled(Control c) const override;
+    void SetEnabled(Control c, bool enabled) override;
+    bool DieLabelsVisible() const override;
+    void SetDieLabelsVisible(bool visible) override;
+    int DieLeft(int i) const override;
+    void SetDieLeft(int i, int left) override;
+    int DieTop(int i) const override;
+    void SetDieTop(int i, int top) override;
+    void SetDieVisible(int i, bool visible) override;
+    void SetDiePicture(int i, ImageList list, int face) override;
+    void RefreshDie(int i) override;
+    std::string CellCaption(int category) const override;
+    void SetCellCaption(int category, const std::string& text) override;
+    int CellBorderStyle(int category) const override;
+    void SetCellBorderStyle(int category, int style) override;
+    int CellTop(int category) const override;
+    void SetCellTop(int category, int top) override;
+    void SetCellBackStyle(int category, int style) override;
+    void SetCellBackColor(int category, std::uint32_t rgb) override;
+    void SetCellForeColor(int category, std::uint32_t rgb) override;
+    void SetCellToolTip(int category, const std::string& text) override;
+    bool Checked(Option option) const override;
+    void SetChecked(Option option, bool checked) override;
+    void SetFocusOnForm() override;
+    void ShowPlayerResults() override;
+    void CheckHighScore(int player) override;
+    void ShowSummary() override;
+    void ShowNewGamePrompt() override;
+    void ShowChangePlayers() override;
+    void Unload() override;
+
+    Label* Cell(int category) const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void CreateDiceField(QWidget* field);
+    void CreateScoreboard();
+    void CreateMenu();
+    QWidget* ControlWidget(Control c) const;
+    QAction* OptionItem(Option option) const;
+    SetupMarks Marks() const;
+    void WakeRollTimer();
+
+    GameTable logic_{*this};
+};

@@ -1,0 +1,204 @@
+// The game by key events on the real window: the window sees Enter and the arrow keys before
+// any control, whichever has the focus; the cursor looks on dice and cells; the offer.
+#include <QApplication>
+#include <QPushButton>
+
+#include "Scoring.h"
+#include "WindowFixture.h"
+
+namespace {
+const std::string Offer = "Do you want to enable keyboard use?";
+}
+
+class Keyboard : public WindowTest {
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        form->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    }
+    // A key as the user types it: to the widget that has the focus.
+    void Key(Qt::Key key)
+    {
+        QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : form.get();
+        QTest::keyClick(target, key);
+    }
+    void KeyOn(QWidget* target, Qt::Key key) { QTest::keyClick(target, key); }
+    bool Inverted(int die)
+    {
+        return form->imgDie[die]->Picture().toImage() == form->ilsDieInv[logic().mDice[die]].toImage();
+    }
+    void RollAndAccept()
+    {
+        Key(Qt::Key_Return);
+        FinishRoll();
+        answers.push_back(vbYes);
+        Key(Qt::Key_Return);
+    }
+};
+
+// Enter rolls with the focus on cmdRoll or elsewhere, and the button does not click a second
+// time: with the caption "Accept" exactly one question comes.
+TEST_F(Keyboard, EnterRollsOnceWhereverTheFocusIs)
+{
+    form->cmdRoll->setFocus();
+    KeyOn(form->cmdRoll, Qt::Key_Return);
+    EXPECT_EQ(logic().mRollPhase, 2);
+    EXPECT_EQ(FinishRoll(), 45);
+    EXPECT_EQ(form->cmdRoll->text(), "Accept");
+
+    form->cmdRoll->setFocus();
+    answers = {vbNo};
+    KeyOn(form->cmdRoll, Qt::Key_Return);
+    EXPECT_EQ(asked.size(), 1u);
+    EXPECT_EQ(asked[0].text, "No dice selected.\r\nAre you satisfied with the roll?");
+
+    form->SetDieTop(4, RollRow);
+    logic().UpdateRollCaption();
+    KeyOn(form->lblDie[0], Qt::Key_Return);   // focus elsewhere
+    EXPECT_EQ(logic().mRollPhase, 1);
+    EXPECT_EQ(FinishRoll(), 37 + 3);
+    // Other keys pass untouched to the controls.
+    form->cmdRoll->setFocus();
+    answers = {vbNo};
+    KeyOn(form->cmdRoll, Qt::Key_Space);
+    EXPECT_EQ(logic().mRollPhase, 0) << "Space clicks the button, which asks";
+    EXPECT_EQ(asked.size(), 2u);
+}
+
+// In the choosing phase Enter does nothing with the option off (and brings no offer); with it
+// on, it scores the boxed cell under the cursor, and nothing on a filled one.
+TEST_F(Keyboard, EnterInTheChoosingPhase)
+{
+    RollAndAccept();
+    ASSERT_FALSE(form->lblSelectCategory->isHidden());
+    Key(Qt::Key_Return);
+    EXPECT_EQ(asked.size(), 1u) << "no offer, no question";
+    EXPECT_FALSE(form->lblSelectCategory->isHidden());
+
+    form->mnuUseKeyboard->trigger();
+    gScores[1][CatOnes] = 2;   // make the cell under the cursor a filled, flat one
+    logic().UnmarkCategory(CatOnes);
+    form->SetCellCaption(CatOnes, "2 ");
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(form->lblSelectCategory->isHidden()) << "a filled cell is no choice";
+    Key(Qt::Key_Right);   // to Three of a Kind
+    EXPECT_EQ(logic().mKeyCursor, CatThreeOfAKind);
+    answers = {vbYes};
+    Key(Qt::Key_Return);
+    EXPECT_NE(gScores[1][CatThreeOfAKind], EmptyCell);
+    EXPECT_EQ(logic().mKeyCursor, 2);
+    EXPECT_FALSE(form->lblPleaseRoll->isHidden());
+}
+
+// The offer comes with the first arrow key of a run, once, also after No; Yes switches the
+// mode on. After the menu has switched it on, no offer comes.
+TEST_F(Keyboard, TheOfferComesOncePerRun)
+{
+    answers = {vbNo};
+    Key(Qt::Key_Down);
+    ASSERT_EQ(asked.size(), 1u);
+    EXPECT_EQ(asked[0].text, Offer);
+    EXPECT_EQ(asked[0].title, "Zarvo - Enable Keyboard");
+    EXPECT_EQ(asked[0].style, vbYesNo | vbQuestion);
+    EXPECT_FALSE(form->mnuUseKeyboard->isChecked());
+    Key(Qt::Key_Up);
+    logic().StartNewGame();
+    Key(Qt::Key_Left);
+    EXPECT_EQ(asked.size(), 1u) << "once per run, also after No";
+
+    gKeyboardOffered = false;   // as in a new run
+    form->mnuUseKeyboard->trigger();
+    form->mnuUseKeyboard->trigger();
+    Key(Qt::Key_Right);
+    EXPECT_EQ(asked.size(), 1u) << "who switched the mode on by the menu gets no offer";
+    gKeyboardOffered = false;
+    form->mnuUseKeyboard->trigger();
+    Key(Qt::Key_Right);
+    EXPECT_EQ(asked.size(), 1u) << "with the mode on, no offer";
+}
+
+// The first arrow key during a roll brings the offer; after Yes no cursor shows until the
+// roll has ended, then it stands on the middle die.
+TEST_F(Keyboard, OfferDuringARoll)
+{
+    Key(Qt::Key_Return);
+    for (int tick = 0; tick < 5; ++tick)
+        logic().tmrRoll_Timer();
+    answers = {vbYes};
+    Key(Qt::Key_Left);
+    EXPECT_TRUE(form->mnuUseKeyboard->isChecked());
+    for (int i = 0; i < 5; ++i)
+        EXPECT_FALSE(form->imgDie[i]->Picture().toImage() == form->ilsDieInv[std::max(1, logic().mDice[i])].toImage());
+    FinishRoll();
+    EXPECT_TRUE(Inverted(2));
+    EXPECT_FALSE(Inverted(1));
+}
+
+// Switching the mode during the deciding phase hides and shows the cursor on the same die,
+// which keeps its look in either row; in the choosing phase the cell under the cursor goes
+// back to white or light grey as it scores or not.
+TEST_F(Keyboard, SwitchingTheModeInEachPhase)
+{
+    form->mnuUseKeyboard->trigger();
+    Key(Qt::Key_Return);
+    FinishRoll();
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Left);   // 2 -> 1 -> 0 -> 4
+    EXPECT_EQ(logic().mKeyCursor, 4);
+    EXPECT_TRUE(Inverted(4));
+    Key(Qt::Key_Down);
+    EXPECT_EQ(form->DieTop(4), RollRow);
+    EXPECT_EQ(form->cmdRoll->text(), "Roll");
+    EXPECT_TRUE(Inverted(4));
+    form->mnuUseKeyboard->trigger();
+    EXPECT_FALSE(Inverted(4));
+    form->mnuUseKeyboard->trigger();
+    EXPECT_TRUE(Inverted(4));
+    Key(Qt::Key_Up);
+    EXPECT_EQ(form->cmdRoll->text(), "Accept");
+
+    answers = {vbYes};
+    Key(Qt::Key_Return);   // accept
+    EXPECT_EQ(logic().mKeyCursor, 1);
+    Label* ones = form->Cell(CatOnes);
+    EXPECT_EQ(ones->BackColor(), QColor(128, 128, 128));
+    EXPECT_EQ(ones->ForeColor(), QColor(255, 255, 255));
+    form->mnuUseKeyboard->trigger();
+    const bool scores = logic().Evaluate(CatOnes).Sum() != 0;
+    EXPECT_EQ(ones->BackColor(), scores ? QColor(255, 255, 255) : QColor(192, 192, 192));
+    EXPECT_EQ(ones->ForeColor(), QColor(0, 0, 0));
+}
+
+// A whole one-player game from key events only: the offer switches the mode on, Enter rolls
+// and accepts, the arrows bring the cursor to the turn's own category, Enter scores it.
+TEST_F(Keyboard, WholeGameByKeys)
+{
+    answers = {vbYes};
+    Key(Qt::Key_Down);   // the offer
+    ASSERT_TRUE(form->mnuUseKeyboard->isChecked());
+    for (int category = 1; category <= 13; ++category) {
+        SCOPED_TRACE("category " + std::to_string(category));
+        RollAndAccept();
+        ASSERT_EQ(logic().mKeyCursor, 1);
+        if (category >= 7)
+            Key(Qt::Key_Right);
+        for (int step = category >= 7 ? 7 : 1; step < category; ++step)
+            Key(Qt::Key_Down);
+        ASSERT_EQ(logic().mKeyCursor, category);
+        const Evaluation expected = logic().Evaluate(category);
+        answers.push_back(vbYes);   // a zero question, if one comes
+        Key(Qt::Key_Return);
+        answers.clear();
+        EXPECT_EQ(gScores[1][category], expected.score);
+    }
+    EXPECT_TRUE(PlayerCardFull(gScores[1]));
+    EXPECT_EQ(form->lblTotal->Caption(), QString::number(PlayerTotal(1)));
+    // The game is over: no key does anything now.
+    Key(Qt::Key_Return);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(logic().mRollPhase, 0);
+    EXPECT_TRUE(form->lblPleaseRoll->isHidden());
+}

@@ -1,0 +1,85 @@
+#pragma once
+// A fresh game table window per test, with its timer stopped so that tests drive the roll tick
+// by tick, a scripted message box, and the program's directory in a temporary folder without
+// a data file.
+#include <QFrame>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QTest>
+#include <deque>
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "AppPath.h"
+#include "MsgBox.h"
+#include "frmMain.h"
+#include "modCommon.h"
+#include "modGlobalVars.h"
+
+struct AskedMessage {
+    std::string text;
+    int style;
+    std::string title;
+};
+
+class WindowTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        SetAppPath(dir.path().toStdString());
+        previous = SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
+            asked.push_back({text, style, title});
+            if (answers.empty())
+                ADD_FAILURE() << "unexpected message: " << text;
+            const int answer = answers.empty() ? vbNo : answers.front();
+            if (!answers.empty())
+                answers.pop_front();
+            return answer;
+        });
+        gNewGameChoice = 0;
+        form = std::make_unique<frmMain>();
+        form->Form_Load();
+        // Tests drive the roll tick by tick: the real timer must never run.
+        form->tmrRoll->setInterval(24 * 3600 * 1000);
+    }
+    void TearDown() override
+    {
+        form.reset();
+        SetMsgBoxHandler(previous);
+    }
+
+    GameTable& logic() { return form->Logic(); }
+
+    // Ticks until the roll rests; gives the number of ticks.
+    int FinishRoll()
+    {
+        int ticks = 0;
+        while (logic().mRollPhase != 0 && ticks < 1000) {
+            logic().tmrRoll_Timer();
+            ++ticks;
+        }
+        return ticks;
+    }
+
+    // A mouse click at a point of the dice field, delivered to whatever widget lies there.
+    void ClickField(QPoint pixel, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QWidget* field = form->lblDie[0]->parentWidget();
+        QWidget* target = field->childAt(pixel);
+        ASSERT_NE(target, nullptr);
+        QTest::mouseClick(target, button, {}, target->mapFrom(field, pixel));
+    }
+    // The middle of die column i, in the empty band between the two rows.
+    static QPoint ColumnPoint(int i) { return QPoint((840 * i + 420) / 15, 1600 / 15); }
+
+    void Click(QWidget* widget, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(widget, button, {}, widget->rect().center());
+    }
+
+    QTemporaryDir dir;
+    std::unique_ptr<frmMain> form;
+    std::deque<int> answers;
+    std::vector<AskedMessage> asked;
+    MsgBoxHandler previous;
+};
