@@ -8,8 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "../../shell/QBColor.h"
 #include "TableScreen.h"
 #include "modGlobalVars.h"
+
+constexpr std::uint32_t White = QBColor(15), LightGrey = QBColor(7), DarkGrey = QBColor(8), Black = QBColor(0);
 
 struct FakeDie {
     int left = 0, top = KeepRow;
@@ -21,14 +24,11 @@ struct FakeDie {
 struct FakeCell {
     std::string caption, toolTip;
     int borderStyle = 0, top = 0, backStyle = 0;
-    std::uint32_t backColor = 0, foreColor = 0;
+    std::uint32_t backColor = White, foreColor = Black;
 };
 
 // The Top of a flat cell: lblLeft(i) and lblRight(i) stand at 270 + 240 (i - 1).
-constexpr int FlatCellTop(int category)
-{
-    return 270 + 240 * ((category <= CatSixes ? category : category - 6) - 1);
-}
+constexpr int FlatCellTop(int category) { return 270 + 240 * ((category <= CatSixes ? category : category - 6) - 1); }
 
 class FakeScreen : public TableScreen {
 public:
@@ -38,7 +38,6 @@ public:
             dice[i] = FakeDie{120 + 840 * i, KeepRow, true, ImageList::ilsDie, i + 1};
         for (int c = 1; c <= CategoryCount; ++c)
             cells[c].top = FlatCellTop(c);
-        checked[Option::AnimateRolling] = true;
     }
 
     std::map<Control, std::string> captions;
@@ -47,22 +46,20 @@ public:
     bool dieLabelsVisible = false;
     std::array<FakeDie, 5> dice;
     std::array<FakeCell, CategoryCount + 1> cells;   // index 1..13
-    std::map<Option, bool> checked;
+    std::map<Option, bool> checked{{Option::AnimateRolling, true}};
 
-    int focusCount = 0;
+    int focusCount = 0, pictureCount = 0;
     std::array<int, 5> refreshCount{};
-    int pictureCount = 0;                 // every SetDiePicture call
     std::vector<std::string> dialogs;     // "results", "highscore 2", "summary", "prompt", "players", "unload"
     int promptAnswer = 0;                 // what the New Game prompt writes to gNewGameChoice
-    std::function<void()> onResults;      // runs while the results dialog is "open"
+    std::function<void()> onResults;      // runs while the results dialog is open
 
-    std::string Caption(Control c) const override { return Get(captions, c, std::string()); }
+    std::string Caption(Control c) const override { return captions.count(c) ? captions.at(c) : ""; }
     void SetCaption(Control c, const std::string& text) override { captions[c] = text; }
-    bool Visible(Control c) const override { return Get(visible, c, true); }
+    bool Visible(Control c) const override { return !visible.count(c) || visible.at(c); }
     void SetVisible(Control c, bool v) override { visible[c] = v; }
-    bool Enabled(Control c) const override { return Get(enabled, c, true); }
+    bool Enabled(Control c) const override { return !enabled.count(c) || enabled.at(c); }
     void SetEnabled(Control c, bool e) override { enabled[c] = e; }
-
     bool DieLabelsVisible() const override { return dieLabelsVisible; }
     void SetDieLabelsVisible(bool v) override { dieLabelsVisible = v; }
 
@@ -90,9 +87,8 @@ public:
     void SetCellForeColor(int c, std::uint32_t rgb) override { cells.at(c).foreColor = rgb; }
     void SetCellToolTip(int c, const std::string& text) override { cells.at(c).toolTip = text; }
 
-    bool Checked(Option o) const override { return Get(checked, o, false); }
+    bool Checked(Option o) const override { return checked.count(o) && checked.at(o); }
     void SetChecked(Option o, bool on) override { checked[o] = on; }
-
     void SetFocusOnForm() override { ++focusCount; }
 
     void ShowPlayerResults() override
@@ -111,19 +107,33 @@ public:
     void ShowChangePlayers() override { dialogs.push_back("players"); }
     void Unload() override { dialogs.push_back("unload"); }
 
-    int BoxedCount() const
+    // The look of all 13 cells, one letter each: '-' flat, 'W' white box, 'g' light grey box,
+    // 'C' box under the cell cursor, 'c' flat cell under it; '?' for a cell whose place,
+    // background style or colours fit none of these.
+    std::string Forms() const
     {
-        int n = 0;
-        for (int c = 1; c <= CategoryCount; ++c)
-            n += cells[c].borderStyle == 1;
-        return n;
+        std::string forms;
+        for (int c = 1; c <= CategoryCount; ++c) {
+            const FakeCell& k = cells[c];
+            char f = '?';
+            if (k.borderStyle == 0 && k.backStyle == 0 && k.top == FlatCellTop(c))
+                f = k.foreColor == White ? 'c' : '-';
+            else if (k.borderStyle == 1 && k.backStyle == 1 && k.top == FlatCellTop(c) - 30) {
+                if (k.backColor == DarkGrey && k.foreColor == White)
+                    f = 'C';
+                else if (k.foreColor == Black)
+                    f = k.backColor == White ? 'W' : k.backColor == LightGrey ? 'g' : '?';
+            }
+            forms += f;
+        }
+        return forms;
     }
-
-private:
-    template <class K, class V>
-    static V Get(const std::map<K, V>& m, K key, V fallback)
+    // The 13 cell captions joined by '|'.
+    std::string Captions() const
     {
-        const auto it = m.find(key);
-        return it == m.end() ? fallback : it->second;
+        std::string all;
+        for (int c = 1; c <= CategoryCount; ++c)
+            all += (c > 1 ? "|" : "") + cells[c].caption;
+        return all;
     }
 };

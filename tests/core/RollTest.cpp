@@ -1,7 +1,6 @@
 // The roll as a tick machine: how many ticks a roll lasts, where the dice lie on the way, when
 // the values are drawn, and what switching the animation off in the middle of a roll does.
 #include <set>
-#include <vector>
 
 #include "TableFixture.h"
 
@@ -9,111 +8,86 @@ namespace {
 
 class RollTest : public TableTest {
 protected:
-    // Finishes the first roll and marks the given dice for the next one.
-    void DecideToRoll(std::vector<int> marked)
+    // A new game whose first roll is over, with the given dice marked for the next one.
+    void DecideToRoll(const std::vector<int>& marked, bool animate = true)
     {
+        NewGame(1, animate);
         Roll();
         for (int i : marked)
             table.imgDie_MouseUp(i, vbLeftButton);
-    }
-    void ExpectInColumns(int top)
-    {
-        for (int i = 0; i < 5; ++i) {
-            EXPECT_EQ(screen.dice[i].left, DieColumnLeft(i)) << "die " << i;
-            EXPECT_EQ(screen.dice[i].top, top) << "die " << i;
-        }
     }
 };
 
 }  // namespace
 
 // A first roll takes 20 tumble + 7 spread + 18 settle ticks; a later roll with k marked dice
-// adds 7 gather ticks and settles in 3 (k + 1). With the animation off any roll takes one tick.
+// adds 7 gather ticks and settles in 3 (k + 1). With the animation off any roll takes one tick
+// and still ends with every die in its column in KeepRow.
 TEST_F(RollTest, TicksPerRoll)
 {
     NewGame(1);
     EXPECT_EQ(Roll(), 45);
     const std::vector<std::vector<int>> marks{{2}, {0, 4}, {1, 2, 3}, {0, 1, 3, 4}, {0, 1, 2, 3, 4}};
     for (const auto& marked : marks) {
-        SCOPED_TRACE(marked.size());
-        NewGame(1);
         DecideToRoll(marked);
-        EXPECT_EQ(Roll(), 37 + 3 * int(marked.size()));
+        EXPECT_EQ(Roll(), 37 + 3 * int(marked.size())) << marked.size();
         EXPECT_EQ(table.mRollsDone, 2);
     }
     NewGame(1, false);
     EXPECT_EQ(Roll(), 1);
-    ExpectInColumns(KeepRow);
+    EXPECT_TRUE(InColumns(KeepRow));
     MarkDice({0, 2, 3});
     EXPECT_EQ(Roll(), 1);
     EXPECT_EQ(table.mRollsDone, 2);
-    ExpectInColumns(KeepRow);
+    EXPECT_TRUE(InColumns(KeepRow));
 }
 
-// A later roll gathers the marked dice on the pile and spreads them back to their own columns
-// before they settle; held dice never move.
-TEST_F(RollTest, MarkedDiceGatherAndSpreadBack)
+// A first roll tumbles on the pile and spreads each die to its own column; a later roll
+// gathers only the marked dice on the pile and spreads them back, while held dice never move.
+TEST_F(RollTest, DiceGatherAndSpread)
 {
     NewGame(1);
+    table.RollOrAccept();
+    TickUntilPhase(3);
+    EXPECT_TRUE(AllDiceAt(PileLeft, RollRow));
+    TickUntilPhase(4);
+    EXPECT_TRUE(InColumns(RollRow));
+
     DecideToRoll({0, 1, 4});
     table.RollOrAccept();
     TickUntilPhase(2);
-    for (int i : {0, 1, 4}) {
-        EXPECT_EQ(screen.dice[i].left, PileLeft) << i;
-        EXPECT_EQ(screen.dice[i].top, RollRow) << i;
-    }
-    for (int i : {2, 3}) {
-        EXPECT_EQ(screen.dice[i].left, DieColumnLeft(i)) << i;
-        EXPECT_EQ(screen.dice[i].top, KeepRow) << i;
+    const int lefts[] = {PileLeft, PileLeft, DieColumnLeft(2), DieColumnLeft(3), PileLeft};
+    const int tops[] = {RollRow, RollRow, KeepRow, KeepRow, RollRow};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(screen.dice[i].left, lefts[i]) << i;
+        EXPECT_EQ(screen.dice[i].top, tops[i]) << i;
     }
     TickUntilPhase(4);
     for (int i : {0, 1, 4})
         EXPECT_EQ(screen.dice[i].left, DieColumnLeft(i)) << i;
     RunTicks();
-    ExpectInColumns(KeepRow);
-}
-
-// A first roll starts with all five on the pile: they tumble there and the spread brings each
-// to its own column.
-TEST_F(RollTest, FirstRollSpreadsFromThePile)
-{
-    NewGame(1);
-    table.RollOrAccept();
-    TickUntilPhase(3);
-    for (const FakeDie& d : screen.dice) {
-        EXPECT_EQ(d.left, PileLeft);
-        EXPECT_EQ(d.top, RollRow);
-    }
-    TickUntilPhase(4);
-    ExpectInColumns(RollRow);
-    RunTicks();
-    ExpectInColumns(KeepRow);
+    EXPECT_TRUE(InColumns(KeepRow));
 }
 
 // Die 2 is the centre of all motion: rolled alone it never moves sideways, tumbles in place
 // and jumps up on the third settle tick.
 TEST_F(RollTest, MiddleDieAloneNeverMovesSideways)
 {
-    NewGame(1);
     DecideToRoll({2});
     table.RollOrAccept();
     int ticks = 0, settleTicks = 0;
-    while (table.mRollPhase != 0 && ticks < 100) {
-        const bool settling = table.mRollPhase == 4;
+    for (; table.mRollPhase != 0 && ticks < 100; ++ticks) {
+        settleTicks += table.mRollPhase == 4;
         table.tmrRoll_Timer();
-        ++ticks;
-        settleTicks += settling;
         for (int i = 0; i < 5; ++i)
             ASSERT_EQ(screen.dice[i].left, DieColumnLeft(i)) << "die " << i << " tick " << ticks;
-        if (settleTicks < 3)
-            ASSERT_EQ(screen.dice[2].top, RollRow) << "tick " << ticks;
-        else
-            ASSERT_EQ(screen.dice[2].top, KeepRow) << "tick " << ticks;
+        ASSERT_EQ(screen.dice[2].top, settleTicks < 3 ? RollRow : KeepRow) << "tick " << ticks;
     }
     EXPECT_EQ(ticks, 40);
 }
 
-// The tumble draws every marked die on each even tick, 2 to 20: ten draws, the last one counts.
+// The tumble draws every marked die on each even tick, 2 to 20: ten draws, and the last one is
+// what the dice show when they rest.
 TEST_F(RollTest, DrawsOnEvenTumbleTicks)
 {
     NewGame(1);
@@ -138,35 +112,31 @@ TEST_F(RollTest, DrawsOnEvenTumbleTicks)
 TEST_F(RollTest, RollMarkedDiceDrawsOnlyMarkedDice)
 {
     NewGame(1);
-    screen.dice[1].top = KeepRow;
-    screen.dice[3].top = KeepRow;
+    screen.dice[1].top = screen.dice[3].top = KeepRow;
     table.mDice = {0, 9, 0, 9, 0};
     screen.dice[1].face = screen.dice[3].face = 9;
     std::set<int> seen[5];
     for (int n = 0; n < 600; ++n) {
         table.RollMarkedDice();
         for (int i : {0, 2, 4}) {
-            ASSERT_GE(table.mDice[i], 1);
-            ASSERT_LE(table.mDice[i], 6);
+            ASSERT_TRUE(table.mDice[i] >= 1 && table.mDice[i] <= 6) << table.mDice[i];
             ASSERT_EQ(screen.dice[i].face, table.mDice[i]);
             ASSERT_EQ(screen.dice[i].list, ImageList::ilsDie);
             seen[i].insert(table.mDice[i]);
         }
     }
-    EXPECT_EQ(table.mDice[1], 9);
-    EXPECT_EQ(table.mDice[3], 9);
-    EXPECT_EQ(screen.dice[1].face, 9);
-    EXPECT_EQ(screen.dice[3].face, 9);
+    EXPECT_EQ(table.mDice[1] * 10 + table.mDice[3], 99);
+    EXPECT_EQ(screen.dice[1].face * 10 + screen.dice[3].face, 99);
     for (int i : {0, 2, 4})
         EXPECT_EQ(seen[i].size(), 6u) << "die " << i;
 }
 
 // The option is read on every tick of gather and tumble: switched off there, the next tick
-// draws once more and lands every marked die in its own column in KeepRow, none left between
-// columns, and the roll is finished.
+// draws the marked dice once more, lands each in its own column in KeepRow with none left
+// between columns, and finishes the roll.
 TEST_F(RollTest, AnimationOffDuringGatherOrTumbleLandsAtOnce)
 {
-    struct Case {
+    const struct {
         const char* what;
         std::vector<int> marked;   // empty: the first roll
         int phase, ticksIn;
@@ -175,10 +145,11 @@ TEST_F(RollTest, AnimationOffDuringGatherOrTumbleLandsAtOnce)
         {"later roll, tumble", {1, 3}, 2, 4},
         {"later roll, gather", {0, 3, 4}, 1, 3},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        NewGame(1);
-        if (!c.marked.empty())
+        if (c.marked.empty())
+            NewGame(1);
+        else
             DecideToRoll(c.marked);
         const int rollsBefore = table.mRollsDone;
         table.RollOrAccept();
@@ -191,11 +162,10 @@ TEST_F(RollTest, AnimationOffDuringGatherOrTumbleLandsAtOnce)
         table.tmrRoll_Timer();
         EXPECT_EQ(table.mRollPhase, 0);
         EXPECT_EQ(screen.pictureCount - pictures, c.marked.empty() ? 5 : int(c.marked.size()));
-        ExpectInColumns(KeepRow);
+        EXPECT_TRUE(InColumns(KeepRow));
         EXPECT_EQ(table.mRollsDone, rollsBefore + 1);
         EXPECT_EQ(screen.Caption(Control::cmdRoll), "Accept");
         EXPECT_TRUE(screen.DieLabelsVisible());
-        EXPECT_EQ(RunTicks(), 0);
     }
 }
 
@@ -203,18 +173,12 @@ TEST_F(RollTest, AnimationOffDuringGatherOrTumbleLandsAtOnce)
 TEST_F(RollTest, AnimationOffDuringSpreadOrSettleChangesNothing)
 {
     for (int phase : {3, 4}) {
-        SCOPED_TRACE(phase);
         NewGame(1);
         table.RollOrAccept();
-        int ticks = 0;
-        while (table.mRollPhase != phase && ticks < 100) {
-            table.tmrRoll_Timer();
-            ++ticks;
-        }
+        const int ticks = TickUntilPhase(phase);
         table.tmrRoll_Timer();
         screen.checked[Option::AnimateRolling] = false;
-        EXPECT_EQ(ticks + 1 + RunTicks(), 45);
-        ExpectInColumns(KeepRow);
-        EXPECT_EQ(table.mRollsDone, 1);
+        EXPECT_EQ(ticks + 1 + RunTicks(), 45) << phase;
+        EXPECT_TRUE(InColumns(KeepRow)) << phase;
     }
 }

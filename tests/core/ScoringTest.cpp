@@ -1,5 +1,5 @@
 // The rule book: what five dice are worth in each category, the two awards, and the totals.
-#include <gtest/gtest.h>
+#include <tuple>
 
 #include "Scoring.h"
 #include "TableFixture.h"
@@ -10,163 +10,147 @@ namespace {
 ScoreCard Card(std::initializer_list<std::pair<int, int>> rows = {})
 {
     ScoreCard card;
-    for (int row = 1; row <= CategoryCount; ++row)
-        card[row] = EmptyCell;
+    card.rows.fill(EmptyCell);
     card[BonusCell] = 0;
     for (auto [row, value] : rows)
         card[row] = std::int16_t(value);
     return card;
 }
 
-struct Case {
+// Score and bonus of all 13 categories for one roll, in category order.
+struct Row {
     DiceValues dice;
-    int category, score, bonus;
+    std::array<int, 13> score, bonus{};
 };
 
-void ExpectCases(const ScoreCard& card, const std::vector<Case>& cases)
+void ExpectRows(const ScoreCard& card, std::initializer_list<Row> rows)
 {
-    for (const Case& c : cases) {
-        const Evaluation e = EvaluateCategory(c.dice, card, c.category);
-        EXPECT_EQ(e.score, c.score) << "category " << c.category << " dice " << c.dice[0] << c.dice[1]
-                                    << c.dice[2] << c.dice[3] << c.dice[4];
-        EXPECT_EQ(e.bonus, c.bonus) << "category " << c.category << " dice " << c.dice[0] << c.dice[1]
-                                    << c.dice[2] << c.dice[3] << c.dice[4];
-    }
+    for (const Row& r : rows)
+        for (int c = 1; c <= CategoryCount; ++c) {
+            const Evaluation e = EvaluateCategory(r.dice, card, c);
+            EXPECT_EQ(e.score, r.score[c - 1]) << "category " << c << " dice " << ::testing::PrintToString(r.dice);
+            EXPECT_EQ(e.bonus, r.bonus[c - 1]) << "category " << c << " dice " << ::testing::PrintToString(r.dice);
+        }
 }
 
 }  // namespace
 
-// On a fresh card no award is at stake: each category gives exactly its own rule's value.
-// Five of a kind is no full house, four of a kind is also three of a kind, a pair inside a
-// small straight does not matter, a large straight needs five different faces, order is free.
-TEST(EvaluateCategory, PlainValuesOfEachCategory)
+// On a fresh card no award is at stake and each category gives its own rule's value: five of a
+// kind is no full house, four of a kind is also three of a kind, a pair inside a small straight
+// does not matter, a large straight needs five different faces, and the order is free.
+TEST(EvaluateCategory, PlainValues)
 {
-    ExpectCases(Card(), {
-        {{2, 2, 3, 3, 3}, CatOnes, 0, 0},           {{2, 2, 3, 3, 3}, CatTwos, 4, 0},
-        {{2, 2, 3, 3, 3}, CatThrees, 9, 0},         {{2, 2, 3, 3, 3}, CatThreeOfAKind, 13, 0},
-        {{2, 2, 3, 3, 3}, CatFourOfAKind, 0, 0},    {{2, 2, 3, 3, 3}, CatFullHouse, 25, 0},
-        {{2, 2, 3, 3, 3}, CatChance, 13, 0},        {{2, 2, 3, 3, 3}, CatSmallStraight, 0, 0},
-        {{2, 2, 3, 3, 3}, CatLargeStraight, 0, 0},  {{2, 2, 3, 3, 3}, CatZarvo, 0, 0},
-        {{5, 5, 5, 5, 2}, CatThreeOfAKind, 22, 0},  {{5, 5, 5, 5, 2}, CatFourOfAKind, 22, 0},
-        {{5, 5, 5, 5, 2}, CatFullHouse, 0, 0},      {{5, 5, 5, 5, 2}, CatFives, 20, 0},
-        {{4, 4, 4, 4, 4}, CatZarvo, 50, 0},         {{4, 4, 4, 4, 4}, CatFours, 20, 0},
-        {{4, 4, 4, 4, 4}, CatThreeOfAKind, 20, 0},  {{4, 4, 4, 4, 4}, CatFourOfAKind, 20, 0},
-        {{4, 4, 4, 4, 4}, CatChance, 20, 0},        {{4, 4, 4, 4, 4}, CatFullHouse, 0, 0},
-        {{1, 1, 2, 2, 3}, CatThreeOfAKind, 0, 0},   {{6, 1, 6, 1, 1}, CatFullHouse, 25, 0},
-        {{3, 3, 3, 1, 2}, CatFullHouse, 0, 0},      {{3, 3, 1, 1, 2}, CatFullHouse, 0, 0},
-        {{1, 2, 3, 4, 5}, CatSmallStraight, 30, 0}, {{1, 2, 3, 4, 5}, CatLargeStraight, 35, 0},
-        {{2, 3, 4, 5, 6}, CatSmallStraight, 30, 0}, {{6, 4, 2, 5, 3}, CatLargeStraight, 35, 0},
-        {{1, 2, 3, 4, 4}, CatSmallStraight, 30, 0}, {{1, 2, 3, 4, 4}, CatLargeStraight, 0, 0},
-        {{1, 2, 3, 4, 6}, CatSmallStraight, 30, 0}, {{1, 2, 3, 4, 6}, CatLargeStraight, 0, 0},
-        {{1, 3, 4, 5, 6}, CatSmallStraight, 30, 0}, {{1, 3, 4, 5, 6}, CatLargeStraight, 0, 0},
-        {{2, 3, 4, 5, 5}, CatSmallStraight, 30, 0}, {{2, 3, 4, 5, 5}, CatLargeStraight, 0, 0},
-        {{1, 2, 4, 5, 6}, CatSmallStraight, 0, 0},  {{1, 2, 4, 5, 6}, CatLargeStraight, 0, 0},
-        {{6, 1, 3, 2, 4}, CatSmallStraight, 30, 0}, {{1, 2, 3, 5, 6}, CatSmallStraight, 0, 0},
+    ExpectRows(Card(), {
+        //               1  2  3   4   5  6  3k  4k  FH  SS  LS  Z   Ch
+        {{2, 2, 3, 3, 3}, {0, 4, 9, 0, 0, 0, 13, 0, 25, 0, 0, 0, 13}},
+        {{5, 5, 5, 5, 2}, {0, 2, 0, 0, 20, 0, 22, 22, 0, 0, 0, 0, 22}},
+        {{4, 4, 4, 4, 4}, {0, 0, 0, 20, 0, 0, 20, 20, 0, 0, 0, 50, 20}},
+        {{3, 3, 3, 1, 2}, {1, 2, 9, 0, 0, 0, 12, 0, 0, 0, 0, 0, 12}},
+        {{6, 1, 6, 1, 1}, {3, 0, 0, 0, 0, 12, 15, 0, 25, 0, 0, 0, 15}},
+        {{1, 1, 2, 2, 3}, {2, 4, 3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 9}},
+        {{1, 2, 3, 4, 5}, {1, 2, 3, 4, 5, 0, 0, 0, 0, 30, 35, 0, 15}},
+        {{2, 3, 4, 5, 6}, {0, 2, 3, 4, 5, 6, 0, 0, 0, 30, 35, 0, 20}},
+        {{1, 2, 3, 4, 4}, {1, 2, 3, 8, 0, 0, 0, 0, 0, 30, 0, 0, 14}},
+        {{1, 2, 3, 4, 6}, {1, 2, 3, 4, 0, 6, 0, 0, 0, 30, 0, 0, 16}},
+        {{1, 3, 4, 5, 6}, {1, 0, 3, 4, 5, 6, 0, 0, 0, 30, 0, 0, 19}},
+        {{2, 3, 4, 5, 5}, {0, 2, 3, 4, 10, 0, 0, 0, 0, 30, 0, 0, 19}},
+        {{1, 2, 4, 5, 6}, {1, 2, 0, 4, 5, 6, 0, 0, 0, 0, 0, 0, 18}},
+        {{6, 1, 3, 2, 4}, {1, 2, 3, 4, 0, 6, 0, 0, 0, 30, 0, 0, 16}},
     });
 }
 
-// A repeat five of a kind earns 100 wherever it scores, but only when the Zarvo cell holds a
-// real 50; a zero taken there, an open cell, or a mere four of a kind earn nothing extra.
-TEST(EvaluateCategory, RepeatAwardNeedsAScoredZarvo)
+// A repeat five of a kind earns 100 wherever it scores, once the Zarvo cell holds a real 50;
+// a zero taken there, an open cell, or a mere four of a kind earn nothing extra.
+TEST(EvaluateCategory, RepeatAward)
 {
-    const DiceValues threes{3, 3, 3, 3, 3};
-    ExpectCases(Card({{CatZarvo, 50}}), {
-        {threes, CatThrees, 15, 100},       {threes, CatThreeOfAKind, 15, 100},
-        {threes, CatFourOfAKind, 15, 100},  {threes, CatChance, 15, 100},
-        {threes, CatOnes, 0, 0},            {threes, CatFullHouse, 0, 0},
-        {threes, CatSmallStraight, 0, 0},   {threes, CatLargeStraight, 0, 0},
-        {{3, 3, 3, 3, 1}, CatThrees, 12, 0}, {{3, 3, 3, 3, 1}, CatFourOfAKind, 13, 0},
-        {{3, 3, 3, 3, 1}, CatThreeOfAKind, 13, 0}, {{3, 3, 3, 3, 1}, CatChance, 13, 0},
+    const std::array<int, 13> fiveThrees{0, 0, 15, 0, 0, 0, 15, 15, 0, 0, 0, 50, 15};
+    ExpectRows(Card({{CatZarvo, 50}}), {
+        {{3, 3, 3, 3, 3}, fiveThrees, {0, 0, 100, 0, 0, 0, 100, 100, 0, 0, 0, 0, 100}},
+        {{3, 3, 3, 3, 1}, {1, 0, 12, 0, 0, 0, 13, 13, 0, 0, 0, 0, 13}},
     });
-    for (int zarvoCell : {0, -1}) {
-        SCOPED_TRACE(zarvoCell);
-        ExpectCases(Card({{CatZarvo, zarvoCell}}), {
-            {threes, CatThrees, 15, 0}, {threes, CatThreeOfAKind, 15, 0},
-            {threes, CatFourOfAKind, 15, 0}, {threes, CatChance, 15, 0},
-        });
-    }
+    ExpectRows(Card({{CatZarvo, 0}}), {{{3, 3, 3, 3, 3}, fiveThrees}});
+    ExpectRows(Card(), {{{3, 3, 3, 3, 3}, fiveThrees}});
 }
 
 // The 35 comes once, from the left category that brings the sum of the filled left cells to
-// 63; open cells count for nothing, a repeat award does not block it, and a right category
-// never earns it.
-TEST(EvaluateCategory, UpperBonus)
+// 63; open cells count for nothing, a repeat award does not block it, a right category never
+// earns it, and a category number outside 1..13 is worth nothing at all.
+TEST(EvaluateCategory, UpperBonusAndRange)
 {
-    struct BonusCase {
+    const std::initializer_list<std::pair<int, int>> left57 = {{1, 4}, {2, 8}, {4, 12}, {5, 15}, {6, 18}};
+    auto with = [](std::initializer_list<std::pair<int, int>> base, std::initializer_list<std::pair<int, int>> more) {
+        ScoreCard card = Card(base);
+        for (auto [row, value] : more)
+            card[row] = std::int16_t(value);
+        return card;
+    };
+    const struct {
         const char* what;
         ScoreCard card;
         DiceValues dice;
         int category, score, bonus;
     } cases[] = {
-        {"57 reaches 63", Card({{1, 4}, {2, 8}, {4, 12}, {5, 15}, {6, 18}}), {3, 3, 1, 2, 5}, CatThrees, 6, 35},
-        {"56 stays short", Card({{1, 3}, {2, 8}, {4, 12}, {5, 15}, {6, 18}}), {3, 3, 1, 2, 5}, CatThrees, 6, 0},
+        {"57 reaches 63", Card(left57), {3, 3, 1, 2, 5}, CatThrees, 6, 35},
+        {"56 stays short", with(left57, {{1, 3}}), {3, 3, 1, 2, 5}, CatThrees, 6, 0},
         {"open cells add nothing", Card({{2, 8}, {4, 16}, {5, 15}, {6, 18}}), {3, 3, 1, 2, 5}, CatThrees, 6, 35},
-        {"right category", Card({{1, 4}, {2, 8}, {4, 12}, {5, 15}, {6, 18}}), {3, 3, 1, 2, 5}, CatChance, 14, 0},
-        {"given at 35", Card({{1, 4}, {2, 8}, {4, 12}, {5, 15}, {6, 18}, {BonusCell, 35}}), {3, 3, 1, 2, 5}, CatThrees, 6, 0},
-        {"given at 135", Card({{1, 4}, {2, 8}, {4, 12}, {5, 15}, {6, 18}, {BonusCell, 135}}), {3, 3, 1, 2, 5}, CatThrees, 6, 0},
+        {"right category", Card(left57), {3, 3, 1, 2, 5}, CatChance, 14, 0},
+        {"given at 35", with(left57, {{BonusCell, 35}}), {3, 3, 1, 2, 5}, CatThrees, 6, 0},
+        {"given at 135", with(left57, {{BonusCell, 135}}), {3, 3, 1, 2, 5}, CatThrees, 6, 0},
         {"both awards", Card({{1, 3}, {2, 6}, {3, 9}, {4, 12}, {5, 15}, {CatZarvo, 50}, {BonusCell, 100}}),
          {6, 6, 6, 6, 6}, CatSixes, 30, 135},
+        {"category 0", Card({{CatZarvo, 50}}), {6, 6, 6, 6, 6}, 0, 0, 0},
+        {"category 14", Card({{CatZarvo, 50}}), {6, 6, 6, 6, 6}, 14, 0, 0},
+        {"category -1", Card({{CatZarvo, 50}}), {6, 6, 6, 6, 6}, -1, 0, 0},
     };
-    for (const BonusCase& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& c : cases) {
         const Evaluation e = EvaluateCategory(c.dice, c.card, c.category);
-        EXPECT_EQ(e.score, c.score);
-        EXPECT_EQ(e.bonus, c.bonus);
+        EXPECT_EQ(e.score, c.score) << c.what;
+        EXPECT_EQ(e.bonus, c.bonus) << c.what;
     }
 }
 
-// A category number outside 1..13 is worth nothing, even with dice that score everywhere.
-TEST(EvaluateCategory, OutOfRangeCategoryIsWorthNothing)
+// Only open categories count when asking whether anything would score; a card is full when no
+// category row is open, a scored 0 being filled and the bonus row no category.
+TEST(CardQuestions, AnyCategoryScoresAndPlayerCardFull)
 {
-    const ScoreCard card = Card({{CatZarvo, 50}, {1, 5}, {2, 10}, {3, 15}, {4, 20}, {5, 25}});
-    for (int category : {0, 14, -1, 100}) {
-        const Evaluation e = EvaluateCategory({6, 6, 6, 6, 6}, card, category);
-        EXPECT_EQ(e.score, 0) << category;
-        EXPECT_EQ(e.bonus, 0) << category;
-    }
-}
-
-// Only open categories count when asking whether anything would score; filled ones are ignored
-// however much they would bring.
-TEST(AnyCategoryScores, LooksAtOpenCategoriesOnly)
-{
-    ScoreCard onlyFullHouseAndLarge = Card();
+    ScoreCard fullHouseAndLarge = Card();
     for (int row = 1; row <= CategoryCount; ++row)
         if (row != CatFullHouse && row != CatLargeStraight)
-            onlyFullHouseAndLarge[row] = 0;
-    EXPECT_FALSE(AnyCategoryScores({1, 1, 2, 2, 3}, onlyFullHouseAndLarge));
-    EXPECT_FALSE(AnyCategoryScores({1, 2, 3, 4, 6}, onlyFullHouseAndLarge));
-    EXPECT_TRUE(AnyCategoryScores({1, 2, 3, 4, 5}, onlyFullHouseAndLarge));
-    ScoreCard withSmall = onlyFullHouseAndLarge;
-    withSmall[CatSmallStraight] = EmptyCell;
-    EXPECT_TRUE(AnyCategoryScores({1, 2, 3, 4, 6}, withSmall));
+            fullHouseAndLarge[row] = 0;
+    EXPECT_FALSE(AnyCategoryScores({1, 1, 2, 2, 3}, fullHouseAndLarge));
+    EXPECT_FALSE(AnyCategoryScores({1, 2, 3, 4, 6}, fullHouseAndLarge));
+    EXPECT_TRUE(AnyCategoryScores({1, 2, 3, 4, 5}, fullHouseAndLarge));
     EXPECT_TRUE(AnyCategoryScores({1, 1, 2, 2, 3}, Card()));
-}
 
-// A card is full when no category row is empty; a scored 0 is filled, the bonus row is no category.
-TEST(PlayerCardFull, ZeroIsFilledAndEmptyCellIsNot)
-{
-    ScoreCard card = Card();
-    EXPECT_FALSE(PlayerCardFull(card));
+    EXPECT_FALSE(PlayerCardFull(Card()));
+    ScoreCard zeros = Card();
     for (int row = 1; row <= CategoryCount; ++row)
-        card[row] = 0;
-    EXPECT_TRUE(PlayerCardFull(card));
+        zeros[row] = 0;
+    EXPECT_TRUE(PlayerCardFull(zeros));
     for (int row = 1; row <= CategoryCount; ++row) {
-        ScoreCard oneOpen = card;
+        ScoreCard oneOpen = zeros;
         oneOpen[row] = EmptyCell;
         EXPECT_FALSE(PlayerCardFull(oneOpen)) << row;
     }
 }
 
-class CommonTest : public TableTest {};
+using CommonTest = TableTest;
 
-// A player's total adds every filled row and the bonus row; open cells subtract nothing, and
-// another player's card does not leak in.
-TEST_F(CommonTest, PlayerTotalSumsFilledRowsAndBonus)
+// The small routines on the shared state: a total adds the filled rows and the bonus row of
+// one player only; a placeholder shows without its marks, any other name as it stands; a
+// cleared board is all open with no bonus; fresh session records start at zero, low 9999.
+TEST_F(CommonTest, SharedStateRoutines)
 {
-    ResetGlobals(2);
-    gScores.ReDim(2);
+    ResetGlobals(3);
+    gScores.ReDim(3);
+    for (int p = 1; p <= 3; ++p)
+        gScores[p].rows.fill(std::int16_t(7 * p));
     ClearScoreboard();
+    for (int p = 1; p <= 3; ++p) {
+        for (int row = 1; row <= CategoryCount; ++row)
+            EXPECT_EQ(gScores[p][row], EmptyCell) << p << "/" << row;
+        EXPECT_EQ(gScores[p][BonusCell], 0) << p;
+    }
     gScores[1][CatThrees] = 9;
     gScores[1][CatChance] = 0;
     gScores[1][CatZarvo] = 50;
@@ -174,48 +158,21 @@ TEST_F(CommonTest, PlayerTotalSumsFilledRowsAndBonus)
     gScores[2][CatSixes] = 24;
     EXPECT_EQ(PlayerTotal(1), 194);
     EXPECT_EQ(PlayerTotal(2), 24);
-}
+    EXPECT_EQ(PlayerTotal(3), 0);
 
-// A placeholder shows without its marks and inner blanks; any other name is shown as it stands.
-TEST_F(CommonTest, PlayerDisplayName)
-{
-    const std::pair<const char*, const char*> cases[] = {
-        {"< Player 1 >", "Player 1"}, {"< Player 8 >", "Player 8"},
-        {"Ann Lee", "Ann Lee"},       {" Bo  Dahl ", " Bo  Dahl "},
-    };
-    for (auto [entry, shown] : cases) {
-        gPlayerNames[1] = entry;
-        EXPECT_EQ(PlayerDisplayName(1), shown);
+    const std::pair<const char*, const char*> names[] = {
+        {"< Player 1 >", "Player 1"}, {"< Player 8 >", "Player 8"}, {"Ann Lee", "Ann Lee"}, {" Bo  Dahl ", " Bo  Dahl "}};
+    for (auto [entry, shown] : names) {
+        gPlayerNames[2] = entry;
+        EXPECT_EQ(PlayerDisplayName(2), shown);
     }
-}
 
-// Clearing makes every category of every player open and every bonus row 0.
-TEST_F(CommonTest, ClearScoreboardEmptiesAllCards)
-{
-    gScores.ReDim(3);
-    for (int p = 1; p <= 3; ++p)
-        for (int row = 1; row <= BonusCell; ++row)
-            gScores[p][row] = std::int16_t(7 * p + row);
-    ClearScoreboard();
-    for (int p = 1; p <= 3; ++p) {
-        for (int row = 1; row <= CategoryCount; ++row)
-            EXPECT_EQ(gScores[p][row], EmptyCell) << p << "/" << row;
-        EXPECT_EQ(gScores[p][BonusCell], 0) << p;
-    }
-}
-
-// One fresh record per player, all zero except the session low, which starts at 9999.
-TEST_F(CommonTest, ClearSessionStatsGivesOneFreshRecordPerPlayer)
-{
-    ResetGlobals(3);
     gSessionStats.ReDim(1, SessionStats{300, 120, 210.5, 4});
     ClearSessionStats();
     ASSERT_EQ(gSessionStats.UBound(), 3);
     for (int p = 1; p <= 3; ++p) {
-        EXPECT_EQ(gSessionStats[p].SessionHigh, 0);
-        EXPECT_EQ(gSessionStats[p].SessionLow, 9999);
-        EXPECT_EQ(gSessionStats[p].SessionAverage, 0.0);
-        EXPECT_EQ(gSessionStats[p].SessionGames, 0);
+        const SessionStats& s = gSessionStats[p];
+        EXPECT_EQ(std::tuple(s.SessionHigh, s.SessionLow, s.SessionAverage, s.SessionGames), std::tuple(0, 9999, 0.0, 0));
     }
 }
 
@@ -226,7 +183,10 @@ TEST_F(CommonTest, LargestCardScoredThroughTheTable)
 {
     NewGame(1, false);
     screen.promptAnswer = 2;
-    const Case turns[] = {
+    const struct {
+        DiceValues dice;
+        int category, score, bonus;
+    } turns[] = {
         {{5, 5, 5, 5, 5}, CatZarvo, 50, 0},          {{1, 1, 1, 1, 1}, CatOnes, 5, 100},
         {{2, 2, 2, 2, 2}, CatTwos, 10, 100},         {{3, 3, 3, 3, 3}, CatThrees, 15, 100},
         {{4, 4, 4, 4, 4}, CatFours, 20, 100},        {{5, 5, 5, 5, 5}, CatFives, 25, 135},
@@ -236,19 +196,17 @@ TEST_F(CommonTest, LargestCardScoredThroughTheTable)
         {{2, 3, 4, 5, 6}, CatLargeStraight, 35, 0},
     };
     int bonus = 0;
-    for (const Case& t : turns) {
-        SCOPED_TRACE(t.category);
+    for (const auto& t : turns) {
         TakeTurn(t.dice, t.category);
         bonus += t.bonus;
-        EXPECT_EQ(gScores[1][t.category], t.score);
-        EXPECT_EQ(gScores[1][BonusCell], bonus);
+        EXPECT_EQ(gScores[1][t.category], t.score) << t.category;
+        EXPECT_EQ(gScores[1][BonusCell], bonus) << t.category;
     }
-    EXPECT_EQ(bonus, 935);
     EXPECT_EQ(PlayerTotal(1), 1270);
-    EXPECT_EQ(screen.Caption(Control::lblLeftTotal), "105");
-    EXPECT_EQ(screen.Caption(Control::lblRightTotal), "230");
-    EXPECT_EQ(screen.Caption(Control::lblBonusTotal), "935");
-    EXPECT_EQ(screen.Caption(Control::lblTotal), "1270");
-    EXPECT_EQ(screen.cells[CatZarvo].caption, "50 ");
-    EXPECT_EQ(screen.cells[CatFives].caption, "25 ");
+    EXPECT_EQ(screen.Captions(), "5 |10 |15 |20 |25 |30 |30 |30 |25 |30 |35 |50 |30 ");
+    const std::pair<Control, const char*> totals[] = {
+        {Control::lblLeftTotal, "105"}, {Control::lblRightTotal, "230"},
+        {Control::lblBonusTotal, "935"}, {Control::lblTotal, "1270"}};
+    for (auto [label, text] : totals)
+        EXPECT_EQ(screen.Caption(label), text);
 }

@@ -11,18 +11,14 @@
 
 #include "../../shell/DateTime.h"
 #include "../../shell/MsgBox.h"
-#include "../../shell/QBColor.h"
 #include "FakeScreen.h"
 #include "GameTable.h"
 #include "modCommon.h"
 #include "modGlobalVars.h"
 
-constexpr std::uint32_t White = QBColor(15), LightGrey = QBColor(7), DarkGrey = QBColor(8), Black = QBColor(0);
-
 // Answers message boxes from a queue and records each call. A message that no test expected
 // fails the test, so every test also checks that nothing asked out of turn.
-class ScriptedMsgBox {
-public:
+struct ScriptedMsgBox {
     struct Call {
         std::string text;
         int style;
@@ -30,10 +26,11 @@ public:
     };
     std::deque<int> answers;
     std::vector<Call> calls;
+    MsgBoxHandler previous;
 
     void Install()
     {
-        previous_ = SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
+        previous = SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
             calls.push_back({text, style, title});
             if (answers.empty()) {
                 ADD_FAILURE() << "unexpected message box: " << text;
@@ -44,10 +41,7 @@ public:
             return answer;
         });
     }
-    void Restore() { SetMsgBoxHandler(std::move(previous_)); }
-
-private:
-    MsgBoxHandler previous_;
+    void Restore() { SetMsgBoxHandler(std::move(previous)); }
 };
 
 class TableTest : public ::testing::Test {
@@ -78,7 +72,6 @@ protected:
         gCurrentPlayer = 1;
         ClearSessionStats();
     }
-
     void NewGame(int players = 1, bool animate = true)
     {
         ResetGlobals(players);
@@ -86,24 +79,37 @@ protected:
         table.StartNewGame();
     }
 
+    // What the player sees of the turn's progress: the caption of cmdRoll, then '+' or '-' for
+    // cmdRoll enabled, picDisplayer enabled, lblPleaseRoll, the die labels and lblSelectCategory
+    // shown, then the count of rolls done.
+    std::string Now() const
+    {
+        std::string look = screen.Caption(Control::cmdRoll) + " ";
+        for (bool on : {screen.Enabled(Control::cmdRoll), screen.Enabled(Control::picDisplayer),
+                        screen.Visible(Control::lblPleaseRoll), screen.DieLabelsVisible(),
+                        screen.Visible(Control::lblSelectCategory)})
+            look += on ? '+' : '-';
+        return look + " " + std::to_string(table.mRollsDone);
+    }
+    static constexpr const char* TurnBegun = "Roll +++-- 0";
+
     // Ticks until the roll is over; gives the number of ticks it took.
     int RunTicks()
     {
         int ticks = 0;
-        while (table.mRollPhase != 0 && ticks < 1000) {
+        for (; table.mRollPhase != 0 && ticks < 1000; ++ticks)
             table.tmrRoll_Timer();
-            ++ticks;
-        }
         EXPECT_EQ(table.mRollPhase, 0) << "the roll never ended";
         return ticks;
     }
-    void TickUntilPhase(int phase)
+    int TickUntilPhase(int phase)
     {
-        for (int n = 0; table.mRollPhase != phase && n < 100; ++n)
+        int ticks = 0;
+        for (; table.mRollPhase != phase && ticks < 100; ++ticks)
             table.tmrRoll_Timer();
-        ASSERT_EQ(table.mRollPhase, phase);
+        EXPECT_EQ(table.mRollPhase, phase);
+        return ticks;
     }
-
     int Roll()
     {
         table.RollOrAccept();
@@ -115,6 +121,20 @@ protected:
         for (int i : dice)
             table.imgDie_MouseUp(i, vbLeftButton);
     }
+    bool AllDiceAt(int left, int top) const
+    {
+        for (const FakeDie& d : screen.dice)
+            if (d.left != left || d.top != top)
+                return false;
+        return true;
+    }
+    bool InColumns(int top) const
+    {
+        for (int i = 0; i < 5; ++i)
+            if (screen.dice[i].left != DieColumnLeft(i) || screen.dice[i].top != top)
+                return false;
+        return true;
+    }
 
     // One roll, then the dice are set and accepted: the choice opens on exactly these dice.
     void ReachChoice(DiceValues d)
@@ -125,7 +145,6 @@ protected:
         table.RollOrAccept();
         ASSERT_TRUE(screen.Visible(Control::lblSelectCategory));
     }
-    // A click on the cell of `category`, as the player gives it.
     void ClickCell(int category)
     {
         if (category <= CatSixes)
@@ -138,7 +157,6 @@ protected:
         ReachChoice(d);
         ClickCell(category);
     }
-
     // Puts values on the current player's card and shows it, as after earlier turns.
     void SetCard(std::initializer_list<std::pair<int, int>> rows)
     {
@@ -148,7 +166,7 @@ protected:
     }
 };
 
-// Dice that score above 0 in each category of a fresh card, to fill cards without zeros.
+// Dice that score above 0 in a category of a fresh card, to fill cards without zeros.
 inline DiceValues ScoringDice(int category)
 {
     switch (category) {

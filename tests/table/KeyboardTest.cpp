@@ -1,14 +1,10 @@
 // The game by key events on the real window: the window sees Enter and the arrow keys before
-// any control, whichever has the focus; the cursor looks on dice and cells; the offer.
+// any control, whichever has the focus, and a whole game can be played with them.
 #include <QApplication>
 #include <QPushButton>
 
 #include "Scoring.h"
 #include "WindowFixture.h"
-
-namespace {
-const std::string Offer = "Do you want to enable keyboard use?";
-}
 
 class Keyboard : public WindowTest {
 protected:
@@ -25,10 +21,6 @@ protected:
         QTest::keyClick(target, key);
     }
     void KeyOn(QWidget* target, Qt::Key key) { QTest::keyClick(target, key); }
-    bool Inverted(int die)
-    {
-        return form->imgDie[die]->Picture().toImage() == form->ilsDieInv[logic().mDice[die]].toImage();
-    }
     void RollAndAccept()
     {
         Key(Qt::Key_Return);
@@ -90,86 +82,6 @@ TEST_F(Keyboard, EnterInTheChoosingPhase)
     EXPECT_NE(gScores[1][CatThreeOfAKind], EmptyCell);
     EXPECT_EQ(logic().mKeyCursor, 2);
     EXPECT_FALSE(form->lblPleaseRoll->isHidden());
-}
-
-// The offer comes with the first arrow key of a run, once, also after No; Yes switches the
-// mode on. After the menu has switched it on, no offer comes.
-TEST_F(Keyboard, TheOfferComesOncePerRun)
-{
-    answers = {vbNo};
-    Key(Qt::Key_Down);
-    ASSERT_EQ(asked.size(), 1u);
-    EXPECT_EQ(asked[0].text, Offer);
-    EXPECT_EQ(asked[0].title, "Zarvo - Enable Keyboard");
-    EXPECT_EQ(asked[0].style, vbYesNo | vbQuestion);
-    EXPECT_FALSE(form->mnuUseKeyboard->isChecked());
-    Key(Qt::Key_Up);
-    logic().StartNewGame();
-    Key(Qt::Key_Left);
-    EXPECT_EQ(asked.size(), 1u) << "once per run, also after No";
-
-    gKeyboardOffered = false;   // as in a new run
-    form->mnuUseKeyboard->trigger();
-    form->mnuUseKeyboard->trigger();
-    Key(Qt::Key_Right);
-    EXPECT_EQ(asked.size(), 1u) << "who switched the mode on by the menu gets no offer";
-    gKeyboardOffered = false;
-    form->mnuUseKeyboard->trigger();
-    Key(Qt::Key_Right);
-    EXPECT_EQ(asked.size(), 1u) << "with the mode on, no offer";
-}
-
-// The first arrow key during a roll brings the offer; after Yes no cursor shows until the
-// roll has ended, then it stands on the middle die.
-TEST_F(Keyboard, OfferDuringARoll)
-{
-    Key(Qt::Key_Return);
-    for (int tick = 0; tick < 5; ++tick)
-        logic().tmrRoll_Timer();
-    answers = {vbYes};
-    Key(Qt::Key_Left);
-    EXPECT_TRUE(form->mnuUseKeyboard->isChecked());
-    for (int i = 0; i < 5; ++i)
-        EXPECT_FALSE(form->imgDie[i]->Picture().toImage() == form->ilsDieInv[std::max(1, logic().mDice[i])].toImage());
-    FinishRoll();
-    EXPECT_TRUE(Inverted(2));
-    EXPECT_FALSE(Inverted(1));
-}
-
-// Switching the mode during the deciding phase hides and shows the cursor on the same die,
-// which keeps its look in either row; in the choosing phase the cell under the cursor goes
-// back to white or light grey as it scores or not.
-TEST_F(Keyboard, SwitchingTheModeInEachPhase)
-{
-    form->mnuUseKeyboard->trigger();
-    Key(Qt::Key_Return);
-    FinishRoll();
-    Key(Qt::Key_Left);
-    Key(Qt::Key_Left);
-    Key(Qt::Key_Left);   // 2 -> 1 -> 0 -> 4
-    EXPECT_EQ(logic().mKeyCursor, 4);
-    EXPECT_TRUE(Inverted(4));
-    Key(Qt::Key_Down);
-    EXPECT_EQ(form->DieTop(4), RollRow);
-    EXPECT_EQ(form->cmdRoll->text(), "Roll");
-    EXPECT_TRUE(Inverted(4));
-    form->mnuUseKeyboard->trigger();
-    EXPECT_FALSE(Inverted(4));
-    form->mnuUseKeyboard->trigger();
-    EXPECT_TRUE(Inverted(4));
-    Key(Qt::Key_Up);
-    EXPECT_EQ(form->cmdRoll->text(), "Accept");
-
-    answers = {vbYes};
-    Key(Qt::Key_Return);   // accept
-    EXPECT_EQ(logic().mKeyCursor, 1);
-    Label* ones = form->Cell(CatOnes);
-    EXPECT_EQ(ones->BackColor(), QColor(128, 128, 128));
-    EXPECT_EQ(ones->ForeColor(), QColor(255, 255, 255));
-    form->mnuUseKeyboard->trigger();
-    const bool scores = logic().Evaluate(CatOnes).Sum() != 0;
-    EXPECT_EQ(ones->BackColor(), scores ? QColor(255, 255, 255) : QColor(192, 192, 192));
-    EXPECT_EQ(ones->ForeColor(), QColor(0, 0, 0));
 }
 
 // A whole one-player game from key events only: the offer switches the mode on, Enter rolls

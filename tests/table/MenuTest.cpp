@@ -78,25 +78,6 @@ TEST_F(Menu, NewGameDuringARoll)
     EXPECT_FALSE(form->lblPleaseRoll->isHidden());
 }
 
-// With the preview switched on while a choice is open, the numbers appear at once; switched
-// off, they go, and the boxes stay where they are.
-TEST_F(Menu, PreviewDuringTheChoice)
-{
-    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
-    while (logic().mRollPhase != 0)
-        logic().tmrRoll_Timer();
-    answers = {vbYes};
-    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
-    EXPECT_EQ(form->Cell(CatChance)->Caption(), "");
-    const int top = form->Cell(CatChance)->y();
-    form->mnuScoringPreview->trigger();
-    EXPECT_EQ(form->Cell(CatChance)->Caption().toInt(), DiceTotal(logic().mDice));
-    form->mnuScoringPreview->trigger();
-    EXPECT_EQ(form->Cell(CatChance)->Caption(), "");
-    EXPECT_EQ(form->Cell(CatChance)->y(), top);
-    EXPECT_EQ(form->Cell(CatChance)->BorderStyle(), 1);
-}
-
 // The real timer drives a roll started by cmdRoll and sleeps again when the dice rest; here it
 // runs with no delay between ticks, so nothing waits.
 TEST_F(Menu, TheTimerRunsOnlyDuringARoll)
