@@ -5,10 +5,7 @@
 
 #include "Twips.h"
 
-Label::Label(QWidget* parent, Qt::Alignment alignment) : QWidget(parent), alignment_(alignment)
-{
-    setAttribute(Qt::WA_TranslucentBackground);
-}
+Label::Label(QWidget* parent, Qt::Alignment alignment) : QWidget(parent), alignment_(alignment) {}
 
 void Label::SetCaption(const QString& caption)
 {
