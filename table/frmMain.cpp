@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFrame>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
@@ -59,6 +60,7 @@ frmMain::frmMain()
         ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie));
         ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDieInv));
     }
+    setWindowIcon(QIcon(ilsDie[5]));
 
     auto* client = new QWidget(this);
     client->setFixedSize(TwipsToPixels(ClientWidth), TwipsToPixels(ClientHeight));
