@@ -1,6 +1,6 @@
 #pragma once
-// The shared set-up of the core tests: a recording TableScreen over plain data, a scripted
-// message box, a pinned clock, fresh globals, and helpers that drive a turn to a chosen point.
+// The core tests' set-up: a recording TableScreen, a scripted message box, a pinned clock, fresh
+// globals, and helpers that drive a turn to a chosen point.
 #include <array>
 #include <deque>
 #include <functional>
@@ -23,7 +23,7 @@ constexpr int FlatTop(int c) { return 270 + 240 * ((c <= CatSixes ? c : c - 6) -
 // Keeps every property the logic sets as data and logs the dialogs in the order they came.
 struct FakeScreen : TableScreen {
     struct Die { int left = 0, top = KeepRow; ImageList list = ImageList::ilsDie; int face = 0; };
-    struct Cell { std::string caption, tip; int border = 0, top = 0, back = 0; std::uint32_t backColor = White, fore = Black; };
+    struct Cell { std::string caption, tip; int border = 0, lift = 0, back = 0; std::uint32_t bg = White, fg = Black; };
     std::map<Control, std::string> captions;
     std::map<Control, bool> visible, enabled;
     std::map<Option, bool> checked{{Option::AnimateRolling, true}};
@@ -31,14 +31,9 @@ struct FakeScreen : TableScreen {
     std::array<Die, 5> dice;
     std::array<Cell, CategoryCount + 1> cells;   // 1..13
     int focus = 0, pictures = 0, refreshed = -1, promptAnswer = 0;
-    std::vector<std::string> dialogs;
+    std::string dialogs;   // each dialog's name after a space
     std::function<void()> onResults;   // runs while the results dialog is open
 
-    FakeScreen()
-    {
-        for (int c = 1; c <= CategoryCount; ++c)
-            cells[c].top = FlatTop(c);
-    }
     template <class K> static bool Get(const std::map<K, bool>& m, K k) { return m.count(k) && m.at(k); }
     std::string Caption(Control c) const override { return captions.count(c) ? captions.at(c) : ""; }
     void SetCaption(Control c, const std::string& text) override { captions[c] = text; }
@@ -53,42 +48,37 @@ struct FakeScreen : TableScreen {
     int DieTop(int i) const override { return dice.at(i).top; }
     void SetDieTop(int i, int top) override { dice.at(i).top = top; }
     void SetDieVisible(int, bool) override {}
-    void SetDiePicture(int i, ImageList list, int face) override { dice.at(i).list = list, dice.at(i).face = face, ++pictures; }
+    void SetDiePicture(int i, ImageList l, int f) override { dice.at(i).list = l, dice.at(i).face = f, ++pictures; }
     void RefreshDie(int i) override { refreshed = i; }
     std::string CellCaption(int c) const override { return cells.at(c).caption; }
     void SetCellCaption(int c, const std::string& text) override { cells.at(c).caption = text; }
     int CellBorderStyle(int c) const override { return cells.at(c).border; }
     void SetCellBorderStyle(int c, int style) override { cells.at(c).border = style; }
-    int CellTop(int c) const override { return cells.at(c).top; }
-    void SetCellTop(int c, int top) override { cells.at(c).top = top; }
+    int CellTop(int c) const override { return FlatTop(c) + cells.at(c).lift; }
+    void SetCellTop(int c, int top) override { cells.at(c).lift = top - FlatTop(c); }
     void SetCellBackStyle(int c, int style) override { cells.at(c).back = style; }
-    void SetCellBackColor(int c, std::uint32_t rgb) override { cells.at(c).backColor = rgb; }
-    void SetCellForeColor(int c, std::uint32_t rgb) override { cells.at(c).fore = rgb; }
+    void SetCellBackColor(int c, std::uint32_t rgb) override { cells.at(c).bg = rgb; }
+    void SetCellForeColor(int c, std::uint32_t rgb) override { cells.at(c).fg = rgb; }
     void SetCellToolTip(int c, const std::string& text) override { cells.at(c).tip = text; }
     bool Checked(Option o) const override { return Get(checked, o); }
     void SetChecked(Option o, bool on) override { checked[o] = on; }
     void SetFocusOnForm() override { ++focus; }
-    void ShowPlayerResults() override { dialogs.push_back("results"), onResults ? onResults() : void(); }
-    void CheckHighScore(int player) override { dialogs.push_back("highscore " + std::to_string(player)); }
-    void ShowSummary() override { dialogs.push_back("summary"); }
-    void ShowNewGamePrompt() override { dialogs.push_back("prompt"), gNewGameChoice = promptAnswer; }
-    void ShowChangePlayers() override { dialogs.push_back("players"); }
-    void Unload() override { dialogs.push_back("unload"); }
+    void ShowPlayerResults() override { dialogs += " results", onResults ? onResults() : void(); }
+    void CheckHighScore(int player) override { dialogs += " highscore" + std::to_string(player); }
+    void ShowSummary() override { dialogs += " summary"; }
+    void ShowNewGamePrompt() override { dialogs += " prompt", gNewGameChoice = promptAnswer; }
+    void ShowChangePlayers() override { dialogs += " players"; }
+    void Unload() override { dialogs += " unload"; }
 
-    // Each cell as a letter: '-' flat, 'W' white box, 'g' light grey box, 'C' box under the cell
-    // cursor, 'c' flat cell under it, '?' a place, style or colour that fits none of these.
+    // Per cell: '-' flat, 'W' white or 'g' light grey box, 'C' box or 'c' flat cell under the cursor, '?' else
     std::string Forms() const
     {
         std::string forms;
         for (int c = 1; c <= CategoryCount; ++c) {
             const Cell& k = cells[c];
-            const bool boxed = k.border == 1 && k.back == 1 && k.top == FlatTop(c) - 30;
-            if (k.border == 0 && k.back == 0 && k.top == FlatTop(c))
-                forms += k.fore == White ? 'c' : '-';
-            else if (boxed && k.fore == (k.backColor == DarkGrey ? White : Black))
-                forms += k.backColor == DarkGrey ? 'C' : k.backColor == White ? 'W' : k.backColor == LightGrey ? 'g' : '?';
-            else
-                forms += '?';
+            const bool flat = !k.border && !k.back && !k.lift, boxed = k.border == 1 && k.back == 1 && k.lift == -30;
+            const char box = k.bg == DarkGrey ? 'C' : k.bg == White ? 'W' : k.bg == LightGrey ? 'g' : '?';
+            forms += flat ? (k.fg == White ? 'c' : '-') : boxed && k.fg == (box == 'C' ? White : Black) ? box : '?';
         }
         return forms;
     }
@@ -121,11 +111,7 @@ protected:
         });
         SetClock([] { return DateTime{2024, 5, 17, 13, 7, 42, 250}; });
     }
-    void TearDown() override
-    {
-        SetMsgBoxHandler(std::move(previous));
-        SetClock({});
-    }
+    void TearDown() override { SetMsgBoxHandler(std::move(previous)), SetClock({}); }
     static std::string Box(const std::string& text, int style, const std::string& title = "Zarvo - Confirm")
     {
         return text + " | " + std::to_string(style) + " | " + title;
@@ -142,20 +128,20 @@ protected:
         screen.checked[Option::AnimateRolling] = animate;
         table.StartNewGame();
     }
-    // The turn as the player sees it: cmdRoll's caption, then '+' or '-' for cmdRoll enabled,
-    // picDisplayer enabled, lblPleaseRoll, the die labels and lblSelectCategory shown, then the
-    // count of rolls done.
+    // cmdRoll's caption, '+' or '-' for cmdRoll and picDisplayer enabled, lblPleaseRoll, die labels
+    // and lblSelectCategory shown, and the rolls done.
     std::string Turn() const
     {
         std::string look = screen.Caption(Control::cmdRoll) + " ";
         for (bool on : {screen.Enabled(Control::cmdRoll), screen.Enabled(Control::picDisplayer),
-                        screen.Visible(Control::lblPleaseRoll), screen.labels, screen.Visible(Control::lblSelectCategory)})
+                        screen.Visible(Control::lblPleaseRoll), screen.labels,
+                        screen.Visible(Control::lblSelectCategory)})
             look += on ? '+' : '-';
         return look + " " + std::to_string(table.mRollsDone);
     }
-    static constexpr const char* TurnBegun = "Roll +++-- 0";
+    inline static const std::string TurnBegun = "Roll +++-- 0";
 
-    // Ticks until the roll reaches `phase` (0: is over), at most 200 ticks; gives the count.
+    // Ticks, at most 200, until the roll reaches `phase` (0: is over); gives the count.
     int TickUntilPhase(int phase)
     {
         int ticks = 0;
@@ -166,22 +152,16 @@ protected:
     }
     int RunTicks() { return TickUntilPhase(0); }
     int Roll() { return table.RollOrAccept(), RunTicks(); }
-    void MarkDice(std::initializer_list<int> dice)
+    void MarkDice(const std::vector<int>& dice)
     {
         for (int i : dice)
             table.imgDie_MouseUp(i, vbLeftButton);
     }
-    bool AllDiceAt(int left, int top) const
-    {
-        for (const auto& d : screen.dice)
-            if (d.left != left || d.top != top)
-                return false;
-        return true;
-    }
-    bool InColumns(int top) const
+    // Whether every die lies at `top`, on the pile or each in its own column.
+    bool DiceAt(bool pile, int top) const
     {
         for (int i = 0; i < 5; ++i)
-            if (screen.dice[i].left != DieColumnLeft(i) || screen.dice[i].top != top)
+            if (screen.dice[i].left != (pile ? PileLeft : DieColumnLeft(i)) || screen.dice[i].top != top)
                 return false;
         return true;
     }
@@ -192,7 +172,18 @@ protected:
         table.mDice = d;
         answers.push_back(vbYes);
         table.RollOrAccept();
-        ASSERT_TRUE(screen.Visible(Control::lblSelectCategory));
+    }
+    void Keys(std::initializer_list<int> keys)
+    {
+        for (int key : keys)
+            EXPECT_EQ(table.Form_KeyDown(key), 0) << key;
+    }
+    std::string DieLooks() const   // 'I' for a die under the cursor picture, '.' for the others
+    {
+        std::string looks;
+        for (const auto& d : screen.dice)
+            looks += d.list == ImageList::ilsDieInv ? 'I' : '.';
+        return looks;
     }
     void ClickCell(int c) { c <= CatSixes ? table.lblLeft_Click(c) : table.lblRight_Click(c - 6); }
     void TakeTurn(DiceValues d, int c) { ReachChoice(d), ClickCell(c); }
