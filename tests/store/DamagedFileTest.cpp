@@ -1,216 +1,124 @@
-// Files the game may meet beside it. Whatever their state, the game stays playable, and a
-// file that could not be used keeps every byte it had.
-#include <filesystem>
+// Whatever the file beside it, the game goes on, and a file it could not use keeps every byte.
+#include <algorithm>
 #include <functional>
 #include <random>
 
 #include "DataFileFixture.h"
 #include "HighScoreTable.h"
-#include "MsgBox.h"
 #include "PlayerTable.h"
-#include "SavedSetup.h"
-#include "modDatabase.h"
-#include "modGlobalVars.h"
 
 namespace {
-namespace fs = std::filesystem;
-using Table = std::vector<std::vector<std::string>>;
+using F = DataFileFixture;
+using Check = std::function<void(F&)>;
 
-// A file with a remembered setup, so that a file read in spite of its damage would show.
-const char* const RememberedSetup =
-    "INSERT INTO Setup VALUES (-1, -1, -1, 0); INSERT INTO PlayersInUse VALUES (1, 'Ann');";
-
-std::string RandomBytes(std::size_t count)
-{
-    std::mt19937 random(7);
-    std::string bytes(count, '\0');
-    for (char& byte : bytes)
-        byte = char(random());
-    return bytes;
-}
+// On every file before its damage, so that a file read in spite of it would show.
+const char* const Remembered = "INSERT INTO Setup VALUES (-1, -1, -1, 0); INSERT INTO PlayersInUse VALUES (1, 'Ann');";
+const SetupMarks RememberedMarks{true, true, true, false}, AllNo{false, false, false, false};
 
 struct Damage {
     const char* name;
-    std::function<void(DataFileFixture&)> apply;
+    Check apply;
+    bool opens = false;         // OpenDataFile(true) succeeds, and says nothing
+    SetupMarks marks = {};      // what LoadSetup gives
+    const char* player = "< Player 1 >";  // the only seat after LoadSetup
+    bool saves = false;         // SaveSetup changes the file
+    Check more = nullptr;       // further work on the open file
 };
 void PrintTo(const Damage& value, std::ostream* out) { *out << value.name; }
 
-const Damage Unusable[] = {
-    {"NoFile", [](DataFileFixture& f) { fs::remove(f.DataPath()); }},
-    {"ZeroLength", [](DataFileFixture& f) { f.WriteBytes(""); }},
-    {"RandomBytes", [](DataFileFixture& f) { f.WriteBytes(RandomBytes(8192)); }},
-    {"Truncated", [](DataFileFixture& f) { f.WriteBytes(f.Bytes().substr(0, 8192)); }},
-    {"PageOverwritten",
-     [](DataFileFixture& f) {
-         std::string bytes = f.Bytes();
-         bytes.replace(3 * 4096 + 8, 512, RandomBytes(512));
+const Damage Damages[] = {
+    {"NoFile", [](F& f) { fs::remove(f.DataPath()); }},
+    {"ZeroLength", [](F& f) { f.WriteBytes(""); }},
+    {"RandomBytes",
+     [](F& f) {
+         std::string bytes(8192, '\0');
+         std::generate(bytes.begin(), bytes.end(), std::mt19937(7));
          f.WriteBytes(bytes);
      }},
-    {"Directory",
-     [](DataFileFixture& f) {
-         fs::remove(f.DataPath());
-         fs::create_directory(f.DataPath());
+    {"Truncated", [](F& f) { f.WriteBytes(f.Bytes().substr(0, 8192)); }},
+    {"PageOverwritten", [](F& f) { f.WriteBytes(f.Bytes().replace(3 * 4096 + 8, 512, 512, 'Z')); }},
+    {"TableMissing", [](F& f) { f.Sql("DROP TABLE HighScores"); }},
+    {"Directory", [](F& f) { fs::remove(f.DataPath()); fs::create_directory(f.DataPath()); }},
+    {"Unreadable", [](F& f) { f.Chmod(0); }},
+    {"Locked", [](F& f) { f.Lock(); }},
+    // Another game's short piece of work must not cost this one its saved setup.
+    {"LockedForAMoment", [](F& f) { f.Lock(std::chrono::milliseconds(200)); }, true, RememberedMarks, "Ann", true},
+    {"ReadOnly", [](F& f) { f.Chmod(0444); }, true, RememberedMarks, "Ann", false,
+     [](F&) { EXPECT_FALSE(AddPlayer("Amy")); }},
+    // Only the work that needs a missing column fails.
+    {"ColumnMissing",
+     [](F& f) {
+         f.Sql("DROP TABLE Setup; CREATE TABLE Setup (RememberPlayers, UseKeyboard, ShowScoringPreview);"
+               "INSERT INTO Setup VALUES (-1, -1, -1); ALTER TABLE Player DROP COLUMN GamesPlayed;");
+     },
+     true},
+    // An empty option is no, an empty figure no record yet (in a Player table without NOT NULL).
+    {"NullInEveryColumn",
+     [](F& f) {
+         f.Sql("UPDATE Setup SET RememberPlayers = NULL, UseKeyboard = NULL, ShowScoringPreview = NULL,"
+               " AnimateRolling = NULL; UPDATE PlayersInUse SET PlayerNumber = NULL, PlayerName = NULL;"
+               "DROP TABLE Player; CREATE TABLE Player (PlayerName, HighScore, LowScore, AverageScore, GamesPlayed);"
+               "INSERT INTO Player VALUES ('< Player >', 0, 9999, 0, 0), ('Nil', NULL, NULL, NULL, NULL);"
+               "UPDATE HighScores SET Player = NULL, Score = NULL, Date = NULL;");
+     },
+     true, AllNo, "< Player 1 >", true,
+     [](F& f) {
+         Recordset statistics = OpenPlayerStatistics("Nil");
+         statistics.MoveFirst();
+         EXPECT_TRUE(UpdateLowScore(statistics, 120) && UpdateHighScore(statistics, 120) && CountGame(statistics, 120));
+         EXPECT_EQ(f.Sql("SELECT HighScore, LowScore, AverageScore, GamesPlayed FROM Player WHERE PlayerName = 'Nil'"),
+                   "120|120|120.0|1");
+         Recordset highScores = OpenHighScoresLowestFirst();
+         highScores.MoveFirst();
+         EXPECT_TRUE(OverwriteHighScore(highScores, "Amy", 200, DateTime{}));
      }},
-    {"TableMissing", [](DataFileFixture& f) { f.Sql("DROP TABLE HighScores"); }},
-    {"LockedByAnotherGame", [](DataFileFixture& f) { f.HoldLock("BEGIN EXCLUSIVE"); }},
+    // A hand-made figure beyond 16 bits keeps its side of every comparison instead of wrapping.
+    {"NumbersBeyond16Bits",
+     [](F& f) {
+         f.Sql("UPDATE Setup SET RememberPlayers = 65536; UPDATE HighScores SET Score = 70000;"
+               "UPDATE Player SET HighScore = 99999, LowScore = -99999;");
+     },
+     true, RememberedMarks, "Ann", true,
+     [](F&) {
+         Recordset statistics = OpenPlayerStatistics(PlaceholderRowName);
+         statistics.MoveFirst();
+         EXPECT_FALSE(UpdateHighScore(statistics, 32767) || UpdateLowScore(statistics, -32768));
+         Recordset lowest = OpenHighScoresLowestFirst();
+         lowest.MoveFirst();
+         EXPECT_EQ(lowest.Fields("Score").Value.CInt(), 32767);
+     }},
 };
 
-class UnusableFileTest : public DataFileFixture, public ::testing::WithParamInterface<Damage> {};
+class DamagedFileTest : public DataFileFixture, public ::testing::WithParamInterface<Damage> {};
 
-TEST_P(UnusableFileTest, CannotBeOpenedAndIsLeftAlone)
+TEST_P(DamagedFileTest, GameGoesOnAndAnUnusableFileIsLeftAlone)
 {
+    const Damage& d = GetParam();
     MakeFreshFile();
-    Sql(RememberedSetup);
-    GetParam().apply(*this);
+    Sql(Remembered);
+    d.apply(*this);
+    if (IsSkipped())
+        return;
     const std::string bytes = Bytes();
     const fs::file_type type = fs::symlink_status(DataPath()).type();
 
-    EXPECT_FALSE(OpenDataFile(true));
-    ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(messages[0].text, "There was an error opening the\r\ndata file. Please make sure "
-                                "the file\r\n'Zarvo.dat' exists in this directory.");
-    EXPECT_EQ(messages[0].style, vbOKOnly | vbCritical);
-    EXPECT_EQ(messages[0].title, "Zarvo - Data File Error");
-
-    gPlayerNames.ReDim(2, "left over");
-    SetupMarks marks;
-    LoadSetup(marks);
-    EXPECT_TRUE(marks.AnimateRolling && !marks.RememberPlayers && !marks.UseKeyboard);
-    EXPECT_EQ(gPlayerNames.UBound(), 1);
-    EXPECT_EQ(gPlayerNames[1], "< Player 1 >");
-    SaveSetup({true, true, true, true});
-
-    EXPECT_EQ(messages.size(), 1u) << "the saved setup never tells the user";
-    EXPECT_EQ(Bytes(), bytes);
-    EXPECT_EQ(fs::symlink_status(DataPath()).type(), type);
-}
-
-INSTANTIATE_TEST_SUITE_P(Damaged, UnusableFileTest, ::testing::ValuesIn(Unusable),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-using OddFileTest = DataFileFixture;
-
-TEST_F(OddFileTest, MissingColumnsFailOnlyTheWorkThatNeedsThem)
-{
-    MakeFreshFile();
-    Sql("DROP TABLE Setup; CREATE TABLE Setup (RememberPlayers, UseKeyboard, ShowScoringPreview);"
-        "INSERT INTO Setup VALUES (-1, -1, -1); INSERT INTO PlayersInUse VALUES (1, 'Ann');"
-        "ALTER TABLE Player DROP COLUMN GamesPlayed;");
-    const std::string bytes = Bytes();
-    SetupMarks marks;
-    LoadSetup(marks);
-    EXPECT_FALSE(marks.RememberPlayers);
-    EXPECT_EQ(gPlayerNames[1], "< Player 1 >");
-    SaveSetup({true, true, true, true});
-    EXPECT_EQ(Bytes(), bytes);
-
-    ASSERT_TRUE(OpenDataFile(false));
-    EXPECT_EQ(OpenPlayerStatistics(PlaceholderRowName).RecordCount(), 0);
-    EXPECT_TRUE(AddPlayer("Amy"));
-    EXPECT_EQ(KnownPlayerNames(), std::vector<std::string>{"Amy"});
-}
-
-TEST_F(OddFileTest, EmptyValuesReadAsNothingAndAreWrittenOver)
-{
-    // An empty figure is no record yet; an empty option is no. The Player table here is one
-    // made without the column rules of a fresh file.
-    MakeFreshFile();
-    Sql("INSERT INTO Setup VALUES (NULL, NULL, NULL, NULL);"
-        "INSERT INTO PlayersInUse VALUES (NULL, NULL);"
-        "DROP TABLE Player;"
-        "CREATE TABLE Player (PlayerName, HighScore, LowScore, AverageScore, GamesPlayed);"
-        "INSERT INTO Player VALUES ('< Player >', 0, 9999, 0, 0), ('Nil', NULL, NULL, NULL, NULL);"
-        "UPDATE HighScores SET Player = NULL, Score = NULL, Date = NULL;");
-    SetupMarks marks;
-    LoadSetup(marks);
-    EXPECT_FALSE(marks.AnimateRolling || marks.RememberPlayers);
-
-    ASSERT_TRUE(OpenDataFile(false));
-    Recordset statistics = OpenPlayerStatistics("Nil");
-    ASSERT_GT(statistics.RecordCount(), 0);
-    statistics.MoveFirst();
-    EXPECT_TRUE(UpdateLowScore(statistics, 120));
-    EXPECT_TRUE(UpdateHighScore(statistics, 120));
-    EXPECT_TRUE(CountGame(statistics, 120));
-    EXPECT_EQ(Rows("SELECT HighScore, LowScore, AverageScore, GamesPlayed FROM Player "
-                   "WHERE PlayerName = 'Nil'"),
-              (Table{{"120", "120", "120.0", "1"}}));
-
-    Recordset highScores = OpenHighScoresForDialog();
-    ASSERT_EQ(highScores.RecordCount(), 10);
-    highScores.MoveFirst();
-    EXPECT_EQ(highScores.Fields("Player").Value.CStr(), "");
-    EXPECT_EQ(highScores.Fields("Score").Value.CInt(), 0);
-    EXPECT_TRUE(OverwriteHighScore(highScores, "Amy", 200, DateTime{}));
-}
-
-TEST_F(OddFileTest, NumbersBeyondSixteenBitsKeepTheirSideOfEveryComparison)
-{
-    // A hand-made record far above any game stays unbeaten instead of wrapping around.
-    MakeFreshFile();
-    Sql("UPDATE Player SET HighScore = 99999, LowScore = -99999;"
-        "UPDATE HighScores SET Score = 70000 WHERE Player = 'Isadora';");
-    ASSERT_TRUE(OpenDataFile(false));
-    Recordset statistics = OpenPlayerStatistics(PlaceholderRowName);
-    statistics.MoveFirst();
-    EXPECT_FALSE(UpdateHighScore(statistics, 32767));
-    EXPECT_FALSE(UpdateLowScore(statistics, -32768));
-
-    Recordset highScores = OpenHighScoresLowestFirst();
-    std::int16_t last = 0;
-    for (highScores.MoveFirst(); !highScores.Eof(); highScores.MoveNext())
-        last = highScores.Fields("Score").Value.CInt();
-    EXPECT_EQ(last, 32767);
-}
-
-TEST_F(OddFileTest, AFileHeldByAnotherGameIsReadButNotWritten)
-{
-    MakeFreshFile();
-    Sql(RememberedSetup);
-    HoldLock("BEGIN IMMEDIATE");
-    const std::string bytes = Bytes();
-    SetupMarks marks;
-    LoadSetup(marks);
-    EXPECT_EQ(gPlayerNames[1], "Ann");
-    SaveSetup({});
-    EXPECT_EQ(Bytes(), bytes);
-}
-
-TEST_F(OddFileTest, AFileHeldForAMomentIsWaitedFor)
-{
-    // Another game's short piece of work must not cost this one its saved setup.
-    MakeFreshFile();
-    Sql(RememberedSetup);
-    HoldLock("BEGIN EXCLUSIVE");
-    std::thread release = ReleaseLockAfter(std::chrono::milliseconds(300));
-    SetupMarks marks;
-    LoadSetup(marks);
-    release.join();
-    EXPECT_EQ(gPlayerNames[1], "Ann");
-}
-
-TEST_F(OddFileTest, FileModesDecideBetweenReadOnlyAndUnusable)
-{
-    // Read-only: the players come back, nothing is written. Unreadable: cannot be opened.
-    MakeFreshFile();
-    Sql(RememberedSetup);
-    FileModesHold modes;
-    if (!modes.Active())
-        GTEST_SKIP() << "running as root, and root's file overrides could not be dropped";
-
-    fs::permissions(DataPath(), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-    const std::string bytes = Bytes();
-    SetupMarks marks;
-    LoadSetup(marks);
-    EXPECT_EQ(gPlayerNames[1], "Ann");
-    SaveSetup({});
-    ASSERT_TRUE(OpenDataFile(false));
-    EXPECT_FALSE(AddPlayer("Amy"));
+    EXPECT_EQ(OpenDataFile(true), d.opens);
     CloseDataFile();
-    EXPECT_EQ(Bytes(), bytes);
+    EXPECT_EQ(LoadedSetup(), Expect(d.marks, {d.player}));
+    SaveSetup({true, true, true, true});
+    EXPECT_EQ(Bytes() != bytes, d.saves);
+    EXPECT_EQ(fs::symlink_status(DataPath()).type(), type);
 
-    fs::permissions(DataPath(), fs::perms::none);
-    EXPECT_FALSE(OpenDataFile(true));
-    EXPECT_EQ(messages.size(), 1u);
+    // Only OpenDataFile(true) tells the user, in exactly these words.
+    const Message error{"There was an error opening the\r\ndata file. Please make sure the file\r\n"
+                        "'Zarvo.dat' exists in this directory.", vbOKOnly | vbCritical, "Zarvo - Data File Error"};
+    EXPECT_EQ(messages, std::vector<Message>(d.opens ? 0 : 1, error));
+    if (d.more) {
+        ASSERT_TRUE(OpenDataFile(false));
+        d.more(*this);
+    }
 }
+
+INSTANTIATE_TEST_SUITE_P(Damaged, DamagedFileTest, ::testing::ValuesIn(Damages),
+                         [](const auto& info) { return std::string(info.param.name); });
 }
