@@ -7,6 +7,7 @@
 enum class Control {
     cmdRoll, picDisplayer, lblPleaseRoll, lblSelectCategory,
     fraScoreboard, lblLeftTotal, lblRightTotal, lblBonusTotal, lblTotal,
+    mnuScoringSummary,   // a menu item: only Enabled applies
 };
 
 // The four options live only as the check marks of their menu items.

@@ -1,14 +1,16 @@
 // Zarvo: the program starts by loading the game table window and ends when it is unloaded.
 #include <QApplication>
 
+#include "GameDialogs.h"
 #include "QtServices.h"
-#include "frmMain.h"
 
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
     InstallQtServices(app);
     frmMain form;
+    GameDialogs dialogs(form);
+    form.SetDialogs(&dialogs);
     form.Form_Load();
     form.show();
     return app.exec();

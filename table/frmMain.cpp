@@ -229,6 +229,12 @@ void frmMain::CreateMenu()
     mnuAbout = mnuHelp->addAction("&About...");
 
     connect(mnuNewGame, &QAction::triggered, this, [this] { logic_.StartNewGame(); });
+    connect(mnuNewPlayers, &QAction::triggered, this, [this] { ShowChangePlayers(); });
+    connect(mnuScoringSummary, &QAction::triggered, this, [this] { ShowSummary(); });
+    connect(mnuHighScores, &QAction::triggered, this, [this] {
+        if (dialogs_)
+            dialogs_->ShowHighScores();
+    });
     connect(mnuExit, &QAction::triggered, this, [this] { Unload(); });
     // Qt turns a checkable item's mark before it reports the click; these two click routines
     // turn the mark themselves (the keyboard offer calls one of them too), so give the turn back.
@@ -256,7 +262,7 @@ void frmMain::Form_Load()
     mnuUseKeyboard->setChecked(marks.UseKeyboard);
     mnuScoringPreview->setChecked(marks.ShowScoringPreview);
     mnuAnimation->setChecked(marks.AnimateRolling);
-    mnuScoringSummary->setEnabled(gPlayerNames.UBound() > 1);
+    SetEnabled(Control::mnuScoringSummary, gPlayerNames.UBound() > 1);
     ClearSessionStats();
     logic_.StartNewGame();
 }
@@ -314,6 +320,7 @@ QWidget* frmMain::ControlWidget(Control c) const
     case Control::lblRightTotal: return lblRightTotal;
     case Control::lblBonusTotal: return lblBonusTotal;
     case Control::lblTotal: return lblTotal;
+    case Control::mnuScoringSummary: break;   // a menu item, no widget
     }
     return nullptr;
 }
@@ -343,8 +350,17 @@ void frmMain::SetCaption(Control c, const std::string& text)
 // A control's own Visible flag, also before the window is shown.
 bool frmMain::Visible(Control c) const { return !ControlWidget(c)->isHidden(); }
 void frmMain::SetVisible(Control c, bool visible) { ControlWidget(c)->setVisible(visible); }
-bool frmMain::Enabled(Control c) const { return ControlWidget(c)->isEnabled(); }
-void frmMain::SetEnabled(Control c, bool enabled) { ControlWidget(c)->setEnabled(enabled); }
+bool frmMain::Enabled(Control c) const
+{
+    return c == Control::mnuScoringSummary ? mnuScoringSummary->isEnabled() : ControlWidget(c)->isEnabled();
+}
+void frmMain::SetEnabled(Control c, bool enabled)
+{
+    if (c == Control::mnuScoringSummary)
+        mnuScoringSummary->setEnabled(enabled);
+    else
+        ControlWidget(c)->setEnabled(enabled);
+}
 
 bool frmMain::DieLabelsVisible() const { return !lblKeep[0]->isHidden(); }
 
@@ -417,10 +433,29 @@ void frmMain::SetFocusOnForm()
     centralWidget()->setFocus();
 }
 
-// The dialogs of the end of a card and of a game come with their own windows; until then the
-// game shows none of them, and a finished game waits for File > New Game.
-void frmMain::ShowPlayerResults() {}
-void frmMain::CheckHighScore(int) {}
-void frmMain::ShowSummary() {}
-void frmMain::ShowNewGamePrompt() {}
-void frmMain::ShowChangePlayers() {}
+// The dialogs belong to their own subsystems; without them (a window tested alone) nothing opens.
+void frmMain::ShowPlayerResults()
+{
+    if (dialogs_)
+        dialogs_->ShowPlayerResults();
+}
+void frmMain::CheckHighScore(int player)
+{
+    if (dialogs_)
+        dialogs_->CheckHighScore(player);
+}
+void frmMain::ShowSummary()
+{
+    if (dialogs_)
+        dialogs_->ShowSummary();
+}
+void frmMain::ShowNewGamePrompt()
+{
+    if (dialogs_)
+        dialogs_->ShowNewGamePrompt();
+}
+void frmMain::ShowChangePlayers()
+{
+    if (dialogs_)
+        dialogs_->ShowChangePlayers();
+}

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <array>
 
+#include "Dialogs.h"
 #include "Frame.h"
 #include "GameTable.h"
 #include "Label.h"
@@ -28,6 +29,8 @@ public:
     frmMain();
     ~frmMain() override;
 
+    // The dialogs that the menu and the end of a card open; main hands them over.
+    void SetDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
     void Form_Load();
     GameTable& Logic() { return logic_; }
 
@@ -105,4 +108,5 @@ private:
     void WakeRollTimer();
 
     GameTable logic_{*this};
+    Dialogs* dialogs_ = nullptr;
 };

@@ -1,0 +1,4 @@
+#include "PlayersWindow.h"
+
+// Placeholder until frmPlayers lands.
+void ShowPlayersDialog(QWidget*, TableScreen&, GameTable&) {}

@@ -1,0 +1,6 @@
+#include "ResultsWindows.h"
+
+// Placeholders until the windows land.
+void ShowPlayerResultsDialog(QWidget*) {}
+void ShowSummaryDialog(QWidget*) {}
+void ShowNewGameDialog(QWidget*) {}
