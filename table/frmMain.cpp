@@ -60,7 +60,7 @@ frmMain::frmMain()
         ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie));
         ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDieInv));
     }
-    setWindowIcon(QIcon(ilsDie[5]));
+    QApplication::setWindowIcon(QIcon(ilsDie[5]));   // the program's icon, on every window that shows one
 
     auto* client = new QWidget(this);
     client->setFixedSize(TwipsToPixels(ClientWidth), TwipsToPixels(ClientHeight));

@@ -1,0 +1,51 @@
+#include "DialogWindow.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "Twips.h"
+
+DialogWindow::DialogWindow(QWidget* owner, const QString& caption, int clientWidth, int clientHeight,
+                           TitleBar titleBar, bool programIcon)
+    : QDialog(owner), titleBar_(titleBar)
+{
+    Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (titleBar == TitleBar::CloseBox)
+        flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    setWindowFlags(flags);
+    setWindowTitle(caption);
+    if (programIcon) {
+        setWindowIcon(QApplication::windowIcon());
+    } else {
+        QPixmap none(16, 16);   // an empty icon would fall back to the program's
+        none.fill(Qt::transparent);
+        setWindowIcon(QIcon(none));
+    }
+    setFixedSize(TwipsToPixels(clientWidth), TwipsToPixels(clientHeight));
+}
+
+int DialogWindow::ClientHeight() const { return PixelsToTwips(height()); }
+
+void DialogWindow::SetClientHeight(int twips) { setFixedHeight(TwipsToPixels(twips)); }
+
+void DialogWindow::CentreOnOwner()
+{
+    const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
+    if (!owner)
+        return;
+    const QRect outer = owner->frameGeometry();
+    const QSize frame = frameGeometry().size() - size();   // the decoration, once known
+    move(outer.x() + (outer.width() - width() - frame.width()) / 2,
+         outer.y() + (outer.height() - height() - frame.height()) / 2);
+}
+
+void DialogWindow::MoveTo(int left, int top) { move(TwipsToPixels(left), TwipsToPixels(top)); }
+
+void DialogWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && titleBar_ == TitleBar::NoCloseBox) {
+        event->accept();   // no cancelling button: the question waits for its answer
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
