@@ -76,8 +76,6 @@ void GameTable::mnuUseKeyboard_Click()
 {
     const bool on = !IsOn(Option::UseKeyboard);
     screen_.SetChecked(Option::UseKeyboard, on);
-    if (on)
-        gKeyboardOffered = true;   // who has found the mode needs no offer of it later
     if (screen_.DieLabelsVisible())
         on ? ShowDieCursor() : HideDieCursor();
     else if (screen_.Visible(Control::lblSelectCategory))

@@ -427,8 +427,10 @@ void frmMain::SetChecked(Option option, bool checked) { OptionItem(option)->setC
 
 void frmMain::SetFocusOnForm()
 {
-    if (!isVisible())
-        return;   // not on the screen yet, as during start-up
+    // Not on the screen yet (start-up), or behind a modal box that a roll has ended under:
+    // the step fails there and is ignored, so the box keeps the keys.
+    if (!isVisible() || QApplication::activeModalWidget())
+        return;
     activateWindow();
     centralWidget()->setFocus();
 }

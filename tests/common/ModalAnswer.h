@@ -7,12 +7,13 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-// Runs `answer` on the dialog once a modal window is up; fails the test if none comes while
-// the event loop turns `patience` times.
+// Runs `answer` on the dialog once a modal window is up and active, as a user would meet it;
+// fails the test if none comes while the event loop turns `patience` times.
 inline void AnswerNextModal(std::function<void(QWidget*)> answer, int patience = 200)
 {
     QTimer::singleShot(0, [answer = std::move(answer), patience] {
-        if (QWidget* modal = QApplication::activeModalWidget())
+        QWidget* modal = QApplication::activeModalWidget();
+        if (modal && modal->isActiveWindow())
             answer(modal);
         else if (patience > 0)
             AnswerNextModal(answer, patience - 1);

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QPushButton>
 
+#include "../common/ModalAnswer.h"
+#include "QtServices.h"
 #include "Scoring.h"
 #include "WindowFixture.h"
 
@@ -113,4 +115,24 @@ TEST_F(Keyboard, WholeGameByKeys)
     Key(Qt::Key_Down);
     EXPECT_EQ(logic().mRollPhase, 0);
     EXPECT_TRUE(form->lblPleaseRoll->isHidden());
+}
+
+// A roll that ends behind the keyboard offer leaves the offer in front: a real Return, sent to
+// whatever window has the focus, answers the box with its default Yes.
+TEST_F(Keyboard, RollEndingBehindTheOfferLeavesItTheKeys)
+{
+    SetMsgBoxHandler(QtMsgBox);
+    Key(Qt::Key_Return);
+    ASSERT_EQ(logic().mRollPhase, 2);
+    bool answered = false;
+    AnswerNextModal([&](QWidget* box) {
+        FinishRoll();
+        QCoreApplication::processEvents();   // the window system's answer to the roll's end
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        answered = box->isHidden();
+        box->close();
+    });
+    Key(Qt::Key_Down);   // the first arrow of the run brings the offer
+    EXPECT_TRUE(answered);
+    EXPECT_TRUE(form->mnuUseKeyboard->isChecked());
 }
