@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <thread>
 
@@ -51,7 +52,8 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "usage: xwindow wait NAME SECONDS | xwindow close NAME\n");
         return 2;
     }
-    Display* display = XOpenDisplay(nullptr);
+    const std::unique_ptr<Display, int (*)(Display*)> connection(XOpenDisplay(nullptr), XCloseDisplay);
+    Display* display = connection.get();
     if (!display) {
         std::fprintf(stderr, "xwindow: no display\n");
         return 2;
@@ -82,7 +84,6 @@ int main(int argc, char* argv[])
         event.xclient.data.l[1] = CurrentTime;
         XSendEvent(display, window, False, NoEventMask, &event);
         XFlush(display);
-        XCloseDisplay(display);
         return 0;
     }
     return 2;
