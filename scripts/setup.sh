@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake            # compiler and build
   qt6-base-dev libgl-dev           # Qt 6 Widgets (its CMake files need the GL headers)
+  qt6-base-private-dev             # the accessibility test switches the platform bridge on
   libsqlite3-dev                   # the data file
   fonts-liberation                 # the windows' font
   libgtest-dev googletest          # tests

@@ -2,12 +2,15 @@
 
 #include <QPainter>
 
+#include "Accessible.h"
 #include "Look.h"
 
 void Frame::SetCaption(const QString& caption)
 {
     caption_ = caption;
     update();
+    if (accessibleName().isEmpty())
+        AnnounceNameChange(this);
 }
 
 void Frame::paintEvent(QPaintEvent*)

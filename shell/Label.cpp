@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "Accessible.h"
 #include "Twips.h"
 
 Label::Label(QWidget* parent, Qt::Alignment alignment) : QWidget(parent), alignment_(alignment) {}
@@ -13,6 +14,8 @@ void Label::SetCaption(const QString& caption)
         return;
     caption_ = caption;
     update();
+    if (accessibleName().isEmpty())
+        AnnounceNameChange(this);
 }
 
 void Label::SetBorderStyle(int style) { borderStyle_ = style; update(); }

@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include "Accessible.h"
 #include "AppPath.h"
 #include "Look.h"
 #include "MsgBox.h"
@@ -48,6 +49,7 @@ void InstallQtServices(QApplication& app)
 {
     SetAppPath(QApplication::applicationDirPath().toStdString());
     SetMsgBoxHandler(QtMsgBox);
+    InstallAccessibleFactory();
     app.setStyle(QStyleFactory::create("Fusion"));
     QPalette palette = app.style()->standardPalette();
     palette.setColor(QPalette::Window, Look::ButtonFace);

@@ -1,5 +1,6 @@
 #include "DieFaces.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -45,7 +46,8 @@ void DrawPip(QImage& image, int left, int top, QRgb pip)
 }
 }
 
-QImage DrawDieFace(int face, ImageList list)
+namespace {
+QImage DrawDieGrid(int face, ImageList list)
 {
     const bool inverted = list == ImageList::ilsDieInv;
     QImage image(DieFacePixels, DieFacePixels, QImage::Format_RGB32);
@@ -60,5 +62,23 @@ QImage DrawDieFace(int face, ImageList list)
     }
     for (const auto& [left, top] : PipBoxes(face))
         DrawPip(image, left, top, inverted ? White : Black);
+    return image;
+}
+}
+
+// Each device pixel takes the colour of the described pixel under its centre, so every edge
+// falls on a device pixel's edge: no resampling by the toolkit, no in-between grey.
+QImage DrawDieFace(int face, ImageList list, qreal scale)
+{
+    const QImage grid = DrawDieGrid(face, list);
+    if (scale == 1.0)
+        return grid;
+    const int size = qRound(DieFacePixels * scale);
+    QImage image(size, size, QImage::Format_RGB32);
+    for (int y = 0; y < size; ++y)
+        for (int x = 0; x < size; ++x)
+            image.setPixel(x, y, grid.pixel(std::min(DieFacePixels - 1, int((x + 0.5) / scale)),
+                                            std::min(DieFacePixels - 1, int((y + 0.5) / scale))));
+    image.setDevicePixelRatio(scale);
     return image;
 }

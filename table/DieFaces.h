@@ -10,4 +10,6 @@
 
 constexpr int DieFacePixels = 41;
 
-QImage DrawDieFace(int face, ImageList list);
+// At a device-pixel ratio above 1 the face is drawn at the screen's resolution, `scale` device
+// pixels to one described pixel; at 1 it is the description itself.
+QImage DrawDieFace(int face, ImageList list, qreal scale = 1.0);

@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "Accessible.h"
 #include "DieFaces.h"
 #include "Look.h"
 #include "QBColor.h"
@@ -56,10 +57,7 @@ frmMain::frmMain()
     setWindowTitle("Zarvo");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-    for (int face = 1; face <= 6; ++face) {
-        ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie));
-        ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDieInv));
-    }
+    DrawDieFaces();
     QApplication::setWindowIcon(QIcon(ilsDie[5]));   // the program's icon, on every window that shows one
 
     auto* client = new QWidget(this);
@@ -79,6 +77,7 @@ frmMain::frmMain()
     picDisplayer->setGeometry(TwipsRect(150, 120, 4275, 1755));
     picDisplayer->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     picDisplayer->setLineWidth(PanelBorderPixels);
+    picDisplayer->setAccessibleName("Dice");
     auto* field = new QWidget(picDisplayer);
     field->setGeometry(picDisplayer->rect().adjusted(PanelBorderPixels, PanelBorderPixels,
                                                      -PanelBorderPixels, -PanelBorderPixels));
@@ -110,6 +109,27 @@ frmMain::frmMain()
 
 frmMain::~frmMain() { qApp->removeEventFilter(this); }
 
+// The image lists at the resolution of the screen the window is on.
+void frmMain::DrawDieFaces()
+{
+    const qreal scale = devicePixelRatioF();
+    for (int face = 1; face <= 6; ++face) {
+        ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie, scale));
+        ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDieInv, scale));
+    }
+}
+
+bool frmMain::event(QEvent* event)
+{
+    // Moved to a screen of another density: the faces are drawn anew for it.
+    if (event->type() == QEvent::ScreenChangeInternal && ilsDie[1].devicePixelRatio() != devicePixelRatioF()) {
+        DrawDieFaces();
+        for (int i = 0; i < 5; ++i)
+            imgDie[i]->SetPicture((dieCursor_[i] ? ilsDieInv : ilsDie)[dieFace_[i]]);
+    }
+    return QMainWindow::event(event);
+}
+
 void frmMain::CreateDiceField(QWidget* field)
 {
     // Created from the bottom of the stacking order up: the words, the click zones, the two
@@ -122,6 +142,7 @@ void frmMain::CreateDiceField(QWidget* field)
     }
     for (int i = 0; i < 5; ++i) {
         lblDie[i] = NewLabel(field, 840 * i, 0, 855, 1695, "");
+        lblDie[i]->setAccessibleName(QString("Column of die %1").arg(i + 1));
         connect(lblDie[i], &Label::MouseUp, this, [this, i](int button) {
             logic_.lblDie_MouseUp(i, button);
             WakeRollTimer();
@@ -138,6 +159,7 @@ void frmMain::CreateDiceField(QWidget* field)
     for (int i = 0; i < 5; ++i) {
         imgDie[i] = NewLabel(field, DieColumnLeft(i), KeepRow, 615, 615, "");
         imgDie[i]->SetPicture(ilsDie[i + 1]);
+        NameDie(i);
         connect(imgDie[i], &Label::MouseUp, this, [this, i](int button) {
             logic_.imgDie_MouseUp(i, button);
             WakeRollTimer();
@@ -339,9 +361,14 @@ void frmMain::SetCaption(Control c, const std::string& text)
 {
     QWidget* w = ControlWidget(c);
     const QString caption = QString::fromStdString(text);
-    if (auto* label = qobject_cast<Label*>(w))
+    if (auto* label = qobject_cast<Label*>(w)) {
         label->SetCaption(caption);
-    else if (w == cmdRoll)
+        // A total is read with its row: "Left: 63".
+        for (auto [total, row] : {std::pair{lblLeftTotal, lblLeftLbl}, {lblRightTotal, lblRightLbl},
+                                  {lblBonusTotal, lblBonusLbl}, {lblTotal, lblTotalLbl}})
+            if (label == total)
+                label->setAccessibleName(SpokenCaption(row->Caption()) + ": " + caption);
+    } else if (w == cmdRoll)
         cmdRoll->setText(caption);
     else
         fraScoreboard->SetCaption(caption);
@@ -373,15 +400,39 @@ void frmMain::SetDieLabelsVisible(bool visible)
 }
 
 int frmMain::DieLeft(int i) const { return PixelsToTwips(imgDie[i]->x()); }
-void frmMain::SetDieLeft(int i, int left) { imgDie[i]->move(TwipsToPixels(left), imgDie[i]->y()); }
+void frmMain::SetDieLeft(int i, int left)
+{
+    imgDie[i]->move(TwipsToPixels(left), imgDie[i]->y());
+    NameDie(i);
+}
 int frmMain::DieTop(int i) const { return PixelsToTwips(imgDie[i]->y()); }
-void frmMain::SetDieTop(int i, int top) { imgDie[i]->move(imgDie[i]->x(), TwipsToPixels(top)); }
+void frmMain::SetDieTop(int i, int top)
+{
+    imgDie[i]->move(imgDie[i]->x(), TwipsToPixels(top));
+    NameDie(i);
+}
 void frmMain::SetDieVisible(int i, bool visible) { imgDie[i]->setVisible(visible); }
 
 void frmMain::SetDiePicture(int i, ImageList list, int face)
 {
-    if (face >= 1 && face <= 6)
-        imgDie[i]->SetPicture(list == ImageList::ilsDie ? ilsDie[face] : ilsDieInv[face]);
+    if (face < 1 || face > 6)
+        return;
+    imgDie[i]->SetPicture(list == ImageList::ilsDie ? ilsDie[face] : ilsDieInv[face]);
+    dieFace_[i] = face;
+    dieCursor_[i] = list == ImageList::ilsDieInv;
+    NameDie(i);
+}
+
+void frmMain::NameDie(int i)
+{
+    static const char* const faces[] = {"", "one", "two", "three", "four", "five", "six"};
+    const char* place = DieLeft(i) != DieColumnLeft(i) ? "on the pile"
+                        : DieTop(i) == KeepRow         ? "kept"
+                        : DieTop(i) == RollRow         ? "to roll"
+                                                       : "rolling";
+    imgDie[i]->setAccessibleName(QString("Die %1: %2, %3%4")
+                                     .arg(i + 1)
+                                     .arg(faces[dieFace_[i]], place, dieCursor_[i] ? ", under the cursor" : ""));
 }
 
 void frmMain::RefreshDie(int i) { imgDie[i]->repaint(); }
@@ -395,9 +446,14 @@ std::string frmMain::CellCaption(int category) const { return Cell(category)->Ca
 void frmMain::SetCellCaption(int category, const std::string& text)
 {
     Cell(category)->SetCaption(QString::fromStdString(text));
+    NameCell(category);
 }
 int frmMain::CellBorderStyle(int category) const { return Cell(category)->BorderStyle(); }
-void frmMain::SetCellBorderStyle(int category, int style) { Cell(category)->SetBorderStyle(style); }
+void frmMain::SetCellBorderStyle(int category, int style)
+{
+    Cell(category)->SetBorderStyle(style);
+    NameCell(category);
+}
 int frmMain::CellTop(int category) const { return PixelsToTwips(Cell(category)->y()); }
 void frmMain::SetCellTop(int category, int top)
 {
@@ -405,7 +461,27 @@ void frmMain::SetCellTop(int category, int top)
 }
 void frmMain::SetCellBackStyle(int category, int style) { Cell(category)->SetBackStyle(style); }
 void frmMain::SetCellBackColor(int category, std::uint32_t rgb) { Cell(category)->SetBackColor(Rgb(rgb)); }
-void frmMain::SetCellForeColor(int category, std::uint32_t rgb) { Cell(category)->SetForeColor(Rgb(rgb)); }
+void frmMain::SetCellForeColor(int category, std::uint32_t rgb)
+{
+    Cell(category)->SetForeColor(Rgb(rgb));
+    NameCell(category);
+}
+
+// "Threes: 6" for a filled cell; while choosing, "Threes: open, would score 41" or "would
+// score nothing" for a boxed one, as its colour tells; the cursor's white text marks its cell.
+void frmMain::NameCell(int category)
+{
+    Label* cell = Cell(category);
+    const QString value = cell->Caption().trimmed();
+    QString state = value.isEmpty() ? "open" : value;
+    if (cell->BorderStyle() == 1) {
+        const bool scores = logic_.Evaluate(category).Sum() > 0;
+        state = scores ? "open, would score" + (value.isEmpty() ? "" : " " + value) : "open, would score nothing";
+    }
+    if (cell->ForeColor() == Rgb(QBColor(15)))
+        state += ", under the cursor";
+    cell->setAccessibleName(SpokenCaption(lblCategoryNames[category - 1]->Caption()) + ": " + state);
+}
 void frmMain::SetCellToolTip(int category, const std::string& text)
 {
     Cell(category)->setToolTip(QString::fromStdString(text));

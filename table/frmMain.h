@@ -95,10 +95,12 @@ public:
     Label* Cell(int category) const;
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void DrawDieFaces();
     void CreateDiceField(QWidget* field);
     void CreateScoreboard();
     void CreateMenu();
@@ -106,7 +108,13 @@ private:
     QAction* OptionItem(Option option) const;
     SetupMarks Marks() const;
     void WakeRollTimer();
+    // What a screen reader says of a die and of a cell, kept up to date with their looks.
+    void NameDie(int i);
+    void NameCell(int category);
 
     GameTable logic_{*this};
     Dialogs* dialogs_ = nullptr;
+    std::array<int, 5> dieFace_{1, 2, 3, 4, 5};   // the face each die's picture shows
+    std::array<bool, 5> dieCursor_{};             // the picture is the cursor look
+
 };
