@@ -46,8 +46,8 @@ TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
         auto& d = *dynamic_cast<frmPlayers*>(modal);
         QTest::keyClicks(d.cboAddRemove->lineEdit(), " Ann");   // no blank first
         d.cmdAdd->click();
-        d.cboAddRemove->lineEdit()->selectAll();   // typed over; no "-" or "'"; twelve at most; Backspace
-        QTest::keyClicks(d.cboAddRemove->lineEdit(), "Bo-b'by 1234567");
+        d.cboAddRemove->lineEdit()->selectAll();   // typed over, no blank first; no "-" or "'"; twelve at most
+        QTest::keyClicks(d.cboAddRemove->lineEdit(), " Bo-b'by 1234567");
         QTest::keyClick(d.cboAddRemove->lineEdit(), Qt::Key_Backspace);
         d.cmdAdd->click();
         Seat(d.cboPlayer[0], "Ann");
