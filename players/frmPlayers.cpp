@@ -96,6 +96,9 @@ void frmPlayers::CreateAddRemove()
     cboAddRemove->setGeometry(TwipsRect(120, 270, 1455, 315));
     cboAddRemove->setToolTip("Select player to remove, or enter name to add.");
     cboAddRemove->setAccessibleName("Player name");
+    // Typed keys reach the box, which hands them to its text field; keys sent to the field
+    // itself come that way too.
+    cboAddRemove->installEventFilter(this);
     cboAddRemove->lineEdit()->installEventFilter(this);
     cmdAdd = new QPushButton("Add", fraAddRemove);
     cmdAdd->setGeometry(TwipsRect(1680, 270, 615, 315));
@@ -129,7 +132,7 @@ void frmPlayers::ShowSelection()
 
 bool frmPlayers::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != cboAddRemove->lineEdit() || event->type() != QEvent::KeyPress)
+    if ((watched != cboAddRemove && watched != cboAddRemove->lineEdit()) || event->type() != QEvent::KeyPress)
         return false;
     // Only keys that type a character, and Backspace: editing keys and shortcuts pass, so a
     // name pasted with Ctrl+V is not filtered.

@@ -44,11 +44,11 @@ TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
     gSessionStats[1].SessionGames = 4;
     AnswerNextModal([](QWidget* modal) {
         auto& d = *dynamic_cast<frmPlayers*>(modal);
-        QTest::keyClicks(d.cboAddRemove->lineEdit(), " Ann");   // no blank first
+        QTest::keyClicks(d.cboAddRemove, " Ann");   // no blank first
         d.cmdAdd->click();
         d.cboAddRemove->lineEdit()->selectAll();   // typed over, no blank first; no "-" or "'"; twelve at most
-        QTest::keyClicks(d.cboAddRemove->lineEdit(), " Bo-b'by 1234567");
-        QTest::keyClick(d.cboAddRemove->lineEdit(), Qt::Key_Backspace);
+        QTest::keyClicks(d.cboAddRemove, " Bo-b'by 1234567");
+        QTest::keyClick(d.cboAddRemove, Qt::Key_Backspace);
         d.cmdAdd->click();
         Seat(d.cboPlayer[0], "Ann");
         Seat(d.cboPlayer[1], "Bobby 12345");
