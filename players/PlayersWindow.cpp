@@ -1,4 +1,14 @@
 #include "PlayersWindow.h"
 
-// Placeholder until frmPlayers lands.
-void ShowPlayersDialog(QWidget*, TableScreen&, GameTable&) {}
+#include "frmPlayers.h"
+
+void ShowPlayersDialog(QWidget* owner, TableScreen& table, GameTable& game)
+{
+    frmPlayers dialog(owner, table, game);
+    // Top edges level, centred across the owner, by the outer edges of both windows. The
+    // dialog's border is not known before it shows; its sides are those of its owner.
+    const QRect outer = owner->frameGeometry();
+    const int dialogWidth = dialog.width() + outer.width() - owner->width();
+    dialog.move(outer.x() + (outer.width() - dialogWidth) / 2, outer.y());
+    dialog.exec();
+}

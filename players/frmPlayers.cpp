@@ -1,0 +1,176 @@
+#include "frmPlayers.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "GameTable.h"
+#include "Look.h"
+#include "QtServices.h"
+#include "modCommon.h"
+
+namespace {
+constexpr int ClientWidth = 3615, TwoSeatHeight = 2685;   // with two seats
+constexpr int vbKeyBack = 8;
+
+QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+// Shows a list of the rules in its box. Only a changed list is rebuilt, and an editable box
+// keeps what the user typed.
+void ShowList(QComboBox* box, const ItemList& list)
+{
+    const QSignalBlocker quiet(box);
+    bool same = box->count() == int(list.List.size());
+    for (int k = 0; same && k < box->count(); ++k)
+        same = box->itemText(k) == Q(list.List[k]);
+    if (!same) {
+        const QString typed = box->currentText();
+        box->clear();
+        for (const std::string& item : list.List)
+            box->addItem(Q(item));
+        if (box->isEditable())
+            box->setEditText(typed);
+    }
+    if (!box->isEditable())
+        box->setCurrentIndex(list.ListIndex);
+}
+}
+
+frmPlayers::frmPlayers(QWidget* owner, TableScreen& table, GameTable& game)
+    : DialogWindow(owner, " Zarvo - Change Players", ClientWidth, TwoSeatHeight, TitleBar::CloseBox, true),
+      table_(table), game_(game)
+{
+    CreateSeats();
+    CreateAddRemove();
+    lblNote = new Label(this);
+    lblNote->SetCaption("Note: to be able to add or remove players, the file 'Zarvo.dat' must exist in the same "
+                        "directory at the program file 'Zarvo.exe'. ");
+    lblNote->hide();
+
+    cmdCancel = new QPushButton("&Close", this);
+    cmdCancel->setToolTip("Play with the previously selected players.");
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    cmdPlay = new QPushButton("&Play", this);
+    cmdPlay->setToolTip("Play with the currently selected players.");
+    cmdPlay->setDefault(true);
+    connect(cmdPlay, &QPushButton::clicked, this, [this] { cmdPlay_Click(); });
+
+    QWidget* order[] = {cboPlayer[0], cboPlayer[1], cboPlayer[2], cboPlayer[3], cboPlayer[4], cboPlayer[5],
+                        cboPlayer[6], cboPlayer[7], cboAddRemove, cmdAdd, cmdRemove, cmdPlay, cmdCancel};
+    for (std::size_t k = 1; k < std::size(order); ++k)
+        setTabOrder(order[k - 1], order[k]);
+
+    selection_.Form_Load();
+    ShowSelection();
+}
+
+void frmPlayers::CreateSeats()
+{
+    fraCurrentPlayers = new Frame(this);
+    fraCurrentPlayers->SetCaption("Selected Players:");
+    for (int i = 0; i < MaxPlayers; ++i) {
+        const QString number = QString::number(i + 1);
+        lblPlayer[i] = new Label(fraCurrentPlayers);
+        lblPlayer[i]->setGeometry(TwipsRect(240, 300 + 360 * i, 975, 255));
+        lblPlayer[i]->setFont(Look::CaptionFont());
+        lblPlayer[i]->SetCaption("Player " + number + ":");
+        cboPlayer[i] = new QComboBox(fraCurrentPlayers);
+        cboPlayer[i]->setGeometry(TwipsRect(1800, 240 + 360 * i, 1455, 315));
+        cboPlayer[i]->setToolTip("Select player #" + number + ".");
+        cboPlayer[i]->setAccessibleName("Player " + number);
+        connect(cboPlayer[i], &QComboBox::currentIndexChanged, this, [this, i](int index) {
+            selection_.SetListIndex(i, index);
+            ShowSelection();
+        });
+    }
+}
+
+void frmPlayers::CreateAddRemove()
+{
+    fraAddRemove = new Frame(this);
+    fraAddRemove->SetCaption("Add/Remove Players");
+    cboAddRemove = new QComboBox(fraAddRemove);
+    cboAddRemove->setEditable(true);
+    cboAddRemove->setInsertPolicy(QComboBox::NoInsert);   // only Add puts a name in the list
+    cboAddRemove->setCompleter(nullptr);                  // what is typed stays as typed
+    cboAddRemove->setGeometry(TwipsRect(120, 270, 1455, 315));
+    cboAddRemove->setToolTip("Select player to remove, or enter name to add.");
+    cboAddRemove->setAccessibleName("Player name");
+    // Typed keys reach the box, which hands them to its text field; keys sent to the field
+    // itself come that way too.
+    cboAddRemove->installEventFilter(this);
+    cboAddRemove->lineEdit()->installEventFilter(this);
+    cmdAdd = new QPushButton("Add", fraAddRemove);
+    cmdAdd->setGeometry(TwipsRect(1680, 270, 615, 315));
+    cmdAdd->setToolTip("Add the player to the list.");
+    connect(cmdAdd, &QPushButton::clicked, this, [this] { cmdAdd_Click(); });
+    cmdRemove = new QPushButton("Remove", fraAddRemove);
+    cmdRemove->setGeometry(TwipsRect(2400, 270, 855, 315));
+    cmdRemove->setToolTip("Remove the selected player from the list.");
+    connect(cmdRemove, &QPushButton::clicked, this, [this] { cmdRemove_Click(); });
+}
+
+// The lists, the open seats and the dialog's growth, as the rules left them.
+void frmPlayers::ShowSelection()
+{
+    for (int i = 0; i < MaxPlayers; ++i) {
+        ShowList(cboPlayer[i], selection_.cboPlayer[i]);
+        cboPlayer[i]->setVisible(selection_.cboPlayer[i].Visible);
+        lblPlayer[i]->setVisible(selection_.cboPlayer[i].Visible);
+    }
+    ShowList(cboAddRemove, selection_.cboAddRemove);
+    const int grown = selection_.Growth;
+    SetClientHeight(TwoSeatHeight + grown);
+    cmdPlay->setGeometry(TwipsRect(2160, 2190 + grown, 1335, 375));
+    cmdCancel->setGeometry(TwipsRect(720, 2190 + grown, 1335, 375));
+    fraAddRemove->setGeometry(TwipsRect(120, 1335 + grown, 3375, 735));
+    lblNote->setGeometry(TwipsRect(180, 1410 + grown, 3375, 735));
+    fraCurrentPlayers->setGeometry(TwipsRect(120, 120, 3375, 1095 + grown));
+    fraAddRemove->setVisible(selection_.fraAddRemoveVisible);
+    lblNote->setVisible(!selection_.fraAddRemoveVisible);
+}
+
+bool frmPlayers::eventFilter(QObject* watched, QEvent* event)
+{
+    if ((watched != cboAddRemove && watched != cboAddRemove->lineEdit()) || event->type() != QEvent::KeyPress)
+        return false;
+    // Only keys that type a character, and Backspace: editing keys and shortcuts pass, so a
+    // name pasted with Ctrl+V is not filtered.
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
+    int KeyAscii = 0;
+    if (key->key() == Qt::Key_Backspace)
+        KeyAscii = vbKeyBack;
+    else if (key->text().size() == 1 && key->text()[0].isPrint())
+        KeyAscii = key->text()[0].unicode();
+    else
+        return false;
+    const QLineEdit* edit = cboAddRemove->lineEdit();
+    const int selStart = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+    cboAddRemove_KeyPress(KeyAscii, int(edit->text().size()), selStart, int(edit->selectedText().size()));
+    return KeyAscii == 0;
+}
+
+void frmPlayers::cmdAdd_Click()
+{
+    std::string text = cboAddRemove->currentText().toStdString();
+    selection_.cmdAdd_Click(text);
+    cboAddRemove->setEditText(Q(text));
+    ShowSelection();
+}
+
+void frmPlayers::cmdRemove_Click()
+{
+    selection_.cmdRemove_Click(cboAddRemove->currentText().toStdString());
+    ShowSelection();
+}
+
+void frmPlayers::cmdPlay_Click()
+{
+    selection_.ReadSeats();
+    table_.SetEnabled(Control::mnuScoringSummary, gPlayerNames.UBound() > 1);
+    ClearSessionStats();
+    game_.StartNewGame();   // a game in progress is given up without a question
+    accept();
+}

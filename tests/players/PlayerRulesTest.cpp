@@ -1,0 +1,128 @@
+// The player dialog's rules on plain lists, over a data file that knows "Cy", "1up" and "bob".
+#include <random>
+#include <set>
+
+#include "../store/DataFileFixture.h"
+#include "PlayerSelection.h"
+
+const std::string None = "< None >";
+std::string Own(int box) { return "< Player " + std::to_string(box + 1) + " >"; }
+
+class PlayerRules : public DataFileFixture {
+public:
+    void SetUp() override
+    {
+        DataFileFixture::SetUp();
+        MakeFreshFile();
+        Sql("INSERT INTO Player (PlayerName) VALUES ('Cy'), ('1up'), ('bob')");
+        SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
+            messages.emplace_back(text, style, title);
+            return answer;
+        });
+    }
+    void Load(const Names& players) { SaveSetupWith({}, players); dialog = PlayerSelection(); dialog.Form_Load(); }
+    // The visible boxes: "_" is "< None >", "P" the box's placeholder, "*" the selection; growth.
+    std::string Boxes() const
+    {
+        std::string text;
+        for (int i = 0; i < MaxPlayers; ++i)
+            for (int k = 0; dialog.cboPlayer[i].Visible && k < int(dialog.cboPlayer[i].List.size()); ++k) {
+                const std::string& entry = dialog.cboPlayer[i].List[k];
+                text += std::string(k ? "," : i ? " | " : "") + (k == dialog.cboPlayer[i].ListIndex ? "*" : "")
+                        + (entry == None ? "_" : entry == Own(i) ? "P" : entry);
+            }
+        return text + " +" + std::to_string(dialog.Growth);
+    }
+
+    PlayerSelection dialog;
+    int answer = vbYes;
+};
+
+// Each case against its seats worked out by hand.
+TEST_F(PlayerRules, SeatsExchangeTheirNames)
+{
+    const std::tuple<Names, std::vector<std::pair<int, std::string>>, std::string> cases[] = {
+        {{Own(0)}, {}, "*P,1up,bob,Cy | *_,P,1up,bob,Cy +0"},
+        {{"Cy", Own(1), Own(2), Own(3), Own(4), Own(5), Own(6), "bob"}, {},
+         "P,1up,*Cy | *P,1up | *P,1up | *P,1up | *P,1up | *P,1up | *P,1up | _,P,1up,*bob +2160"},
+        // The last seat given up: its name, a digit first, goes back ahead of the markers.
+        {{"Cy", "bob", "1up"}, {{2, None}}, "1up,P,*Cy | _,1up,P,*bob | *_,P,1up +360"},
+        // The same value again; a name for a name; a placeholder for a name.
+        {{"Cy", "bob"}, {{0, "Cy"}, {0, "1up"}, {1, Own(1)}}, "P,*1up,Cy,bob | _,*P,Cy,bob | *_,P,Cy,bob +360"},
+        // A name gone from the file keeps its seat; a name twice gets the seat's placeholder.
+        {{"Dee", "bob", "bob"}, {}, "P,1up,Cy,*Dee | P,1up,*bob,Cy | _,*P,1up,Cy | *_,P,1up,Cy +720"},
+    };
+    for (const auto& [players, picks, boxes] : cases) {
+        Load(players);
+        for (const auto& [box, value] : picks)
+            dialog.SetListIndex(box, FindListItem(value, dialog.cboPlayer[box]));
+        EXPECT_EQ(Boxes(), boxes);
+    }
+}
+
+// Random picks: after each, with N seats taken, the four rules hold and the dialog has grown a
+// step per open box beyond two.
+TEST_F(PlayerRules, TheRulesHoldAfterEveryPick)
+{
+    Load({"bob"});
+    std::mt19937 random(20240611);
+    for (int step = 0; step < 500; ++step) {
+        const int pick = int(random() % MaxPlayers);
+        if (dialog.cboPlayer[pick].Visible)
+            dialog.SetListIndex(pick, int(random() % dialog.cboPlayer[pick].List.size()));
+        int n = 0;
+        std::set<std::string> free{"Cy", "1up", "bob"};   // the names selected nowhere
+        for (int i = 0; i < MaxPlayers; ++i) {
+            n += n == i && dialog.cboPlayer[i].ListIndex >= 0 && dialog.cboPlayer[i].Text() != None;
+            free.erase(dialog.cboPlayer[i].Text());
+        }
+        for (int i = 0; i < MaxPlayers; ++i) {
+            const ItemList& box = dialog.cboPlayer[i];
+            std::set<std::string> offered = free;
+            offered.insert({Own(i), box.Text(), i > 0 && (i == n || i == n - 1) ? None : ""});
+            offered.erase("");
+            EXPECT_EQ(std::multiset<std::string>(box.List.begin(), box.List.end()),
+                      std::multiset<std::string>(offered.begin(), offered.end())) << i << Boxes();
+            EXPECT_EQ(std::pair(box.Visible, box.ListIndex < 0), std::pair(i <= n || i < 2, i > n)) << i << Boxes();
+        }
+        EXPECT_EQ(dialog.Growth, 360 * (std::min(n + 1, MaxPlayers) - 2));
+    }
+}
+
+// Adds and Removes in a row: the messages, the names then in file and cboAddRemove, the text left.
+TEST_F(PlayerRules, AddAndRemoveAnswerAndChangeListsAndFile)
+{
+    const std::string q = "O'Hara \"Jr\"", withQ = "Cy;1up;bob;" + q + " / 1up," + q + ",bob,Cy";
+    const Message sure{"Are you sure you want to delete\r\nthis player? All saved information\r\n"
+                       "for the player will be lost.", 292, "Zarvo - Confirm Delete"};
+    const std::string noFile = "There is an error in the data file.\r\nThe ", cannot = "Zarvo - Cannot Remove";
+    const std::string known = "Cy;1up;bob / 1up,bob,Cy";
+    const std::tuple<char, std::string, int, std::vector<Message>, std::string, std::string> steps[] = {
+        {'A', "   ", vbOK, {{"Please enter a name to add.", 48, "Zarvo - Please Enter a Name"}}, known, ""},
+        {'A', " " + q + "  ", vbOK, {}, withQ, q},
+        {'A', q, vbOK, {{"Cannot add player; the player already exists.", 0, "Zarvo - Already Have Player"}}, withQ, q},
+        {'R', "< Player >", vbOK, {{"Player not found - cannot remove player.", 64, cannot}}, withQ, "< Player >"},
+        {'R', "bob", vbOK, {{"Cannot remove a player\r\nthat is currently selected.", 64, cannot}}, withQ,
+         "bob"},
+        {'R', q, vbNo, {sure}, withQ, q},
+        {'R', q, vbYes, {sure}, known, q},
+        {'F', "", vbOK, {}, "no file / 1up,bob,Cy", ""},
+        {'A', "Al", vbOK, {{noFile + "information will not be saved.", 16, "Zarvo - Cannot Open Data File"}},
+         "no file / 1up,Al,bob,Cy", "Al"},
+        {'R', "1up", vbYes, {sure, {noFile + "removal will not be saved.", 16, "Zarvo - Cannot Open Data File"}},
+         "no file / Al,bob,Cy", "1up"},
+    };
+    const auto dropFile = [this] { fs::remove(DataPath()); };
+    Load({"Cy", "bob"});
+    for (const auto& [action, typed, answered, asked, lists, left] : steps) {
+        messages.clear();
+        answer = answered;
+        std::string text = typed;
+        action == 'A' ? dialog.cmdAdd_Click(text) : action == 'R' ? dialog.cmdRemove_Click(text) : dropFile();
+        std::string seen = fs::exists(DataPath()) ? Sql("SELECT PlayerName FROM Player WHERE rowid > 1") : "no file";
+        for (std::size_t k = 0; k < dialog.cboAddRemove.List.size(); ++k)
+            seen += (k ? "," : " / ") + dialog.cboAddRemove.List[k];
+        EXPECT_EQ(messages, asked) << typed;
+        EXPECT_EQ(seen + " [" + text + "]", lists + " [" + left + "]");
+    }
+}

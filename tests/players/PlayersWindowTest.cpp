@@ -1,0 +1,63 @@
+// frmPlayers over the game table, opened from the menu and answered from its own event loop.
+#include <QLineEdit>
+
+#include "../common/ModalAnswer.h"
+#include "../table/WindowFixture.h"
+#include "FreshDataFile.h"
+#include "GameDialogs.h"
+#include "frmPlayers.h"
+
+static void Seat(QComboBox* box, const QString& value) { box->setCurrentIndex(box->findText(value)); }
+
+// Without a file: the message first, lblNote for Add and Remove, eight seats grown, and Close
+// during a turn changes nothing. With it: two names typed and added, three seats, Play.
+TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
+{
+    GameDialogs dialogs(*form);
+    form->SetDialogs(&dialogs);
+    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
+    FinishRoll();
+    const auto state = [this] {
+        return std::tuple(form->cmdRoll->text(), logic().mRollsDone, gCurrentPlayer, logic().mDice, form->DieLeft(0));
+    };
+    const auto before = state();
+    answers = {vbOK};
+    AnswerNextModal([](QWidget* modal) {
+        auto& d = *dynamic_cast<frmPlayers*>(modal);
+        EXPECT_TRUE(d.fraAddRemove->isHidden() && !d.lblNote->isHidden());
+        for (int i = 1; i < MaxPlayers; ++i)
+            Seat(d.cboPlayer[i], QString("< Player %1 >").arg(i + 1));
+        const std::pair<QWidget*, QRect> twips[] = {
+            {&d, {d.x() * 15, d.y() * 15, 3615, 4845}}, {d.cboPlayer[7], {1800, 2760, 1455, 315}},
+            {d.fraCurrentPlayers, {120, 120, 3375, 3255}}, {d.cmdRemove, {2400, 270, 855, 315}},
+            {d.lblNote, {180, 3570, 3375, 735}}, {d.cmdPlay, {2160, 4350, 1335, 375}}};
+        for (const auto& [w, at] : twips)
+            EXPECT_EQ(QRect(w->x() * 15, w->y() * 15, w->width() * 15, w->height() * 15), at) << "top " << at.y();
+        d.cmdCancel->click();
+    });
+    form->mnuNewPlayers->trigger();
+    EXPECT_EQ(asked.size() == 1 ? asked[0].title : "", "Zarvo - Data File Error");
+    EXPECT_EQ(state(), before);
+
+    std::string error;
+    ASSERT_TRUE(WriteFreshDataFile(ZARVO_SCHEMA_FILE, dir.filePath("Zarvo.dat").toStdString(), error));
+    gSessionStats[1].SessionGames = 4;
+    AnswerNextModal([](QWidget* modal) {
+        auto& d = *dynamic_cast<frmPlayers*>(modal);
+        QTest::keyClicks(d.cboAddRemove, " Ann");   // no blank first
+        d.cmdAdd->click();
+        d.cboAddRemove->lineEdit()->selectAll();   // typed over, no blank first; no "-" or "'"; twelve at most
+        QTest::keyClicks(d.cboAddRemove, " Bo-b'by 1234567");
+        QTest::keyClick(d.cboAddRemove, Qt::Key_Backspace);
+        d.cmdAdd->click();
+        Seat(d.cboPlayer[0], "Ann");
+        Seat(d.cboPlayer[1], "Bobby 12345");
+        Seat(d.cboPlayer[2], "< Player 3 >");
+        QTest::keyClick(&d, Qt::Key_Return);   // cmdPlay is the default button
+    });
+    form->mnuNewPlayers->trigger();
+    EXPECT_EQ(gPlayerNames[1] + "," + gPlayerNames[2] + "," + gPlayerNames[3], "Ann,Bobby 12345,< Player 3 >");
+    EXPECT_EQ(std::tuple(form->mnuScoringSummary->isEnabled(), gSessionStats.UBound(), gSessionStats[1].SessionGames),
+              std::tuple(true, 3, 0));
+    EXPECT_EQ(form->lblPleaseRoll->Caption(), "Ann's turn. Please roll.");
+}
