@@ -23,10 +23,10 @@ Label* NewLabel(QWidget* parent, int left, int top, int width, Qt::Alignment ali
     return label;
 }
 
-// Right-aligned numbers keep the leading blank of Str; it falls outside the text's right edge.
+// Numbers keep the leading blank of Str; on the right-aligned labels it falls on the left, unseen.
 QString Number(int value) { return QString::fromStdString(Str(value)); }
 
-void MoveDown(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() + TwipsToPixels(twips)); }
+void AddToTop(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() + TwipsToPixels(twips)); }
 }
 
 frmSummary::frmSummary(QWidget* owner)
@@ -73,7 +73,7 @@ void frmSummary::ArrangeSummaryGrid()
     const int shift = SummaryShift(players);
     for (QWidget* below : std::initializer_list<QWidget*>{lblTotals, lblTotalLeft, lblTotalRight, lblTotalBonus,
                                                           lblTotalTotal, lblTotalZarvos, cmdOK})
-        MoveDown(below, shift);
+        AddToTop(below, shift);
     SetClientHeight(GridHeight + shift);
     DrawGridLines(shift);
 
