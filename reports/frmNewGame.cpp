@@ -1,0 +1,30 @@
+#include "frmNewGame.h"
+
+#include <QPushButton>
+
+#include "QtServices.h"
+#include "modGlobalVars.h"
+
+// No close box and no Escape: the window waits for a button. Closed any other way it leaves
+// gNewGameChoice as it was, which the end of a game reads as "neither".
+frmNewGame::frmNewGame(QWidget* owner)
+    : DialogWindow(owner, " Zarvo - New Game", 3015, 1110, TitleBar::NoCloseBox, false)
+{
+    cmdYes = new QPushButton("&Yes", this);   // first in the tab order
+    cmdYes->setGeometry(TwipsRect(120, 600, 1335, 375));
+    cmdYes->setDefault(true);
+    cmdNo = new QPushButton("&No", this);
+    cmdNo->setGeometry(TwipsRect(1560, 600, 1335, 375));
+    lblAnother = new Label(this, Qt::AlignHCenter);
+    lblAnother->setGeometry(TwipsRect(120, 240, 2775, 375));
+    lblAnother->SetCaption("Play another game?");
+
+    connect(cmdYes, &QPushButton::clicked, this, [this] {
+        gNewGameChoice = 1;
+        accept();
+    });
+    connect(cmdNo, &QPushButton::clicked, this, [this] {
+        gNewGameChoice = 2;
+        accept();
+    });
+}

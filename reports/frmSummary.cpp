@@ -1,0 +1,127 @@
+#include "frmSummary.h"
+
+#include <QPushButton>
+#include <vector>
+
+#include "Look.h"
+#include "NumberText.h"
+#include "QtServices.h"
+#include "SummaryFigures.h"
+#include "Twips.h"
+#include "modCommon.h"
+#include "modGlobalVars.h"
+
+namespace {
+constexpr int GridWidth = 4575, GridHeight = 3585;   // the client area for eight players
+constexpr int LabelHeight = 255, FirstRowTop = 600, RowHeight = 240;
+
+Label* NewLabel(QWidget* parent, int left, int top, int width, Qt::Alignment alignment, const QString& caption = {})
+{
+    auto* label = new Label(parent, alignment);
+    label->setGeometry(TwipsRect(left, top, width, LabelHeight));
+    label->SetCaption(caption);
+    return label;
+}
+
+// Numbers keep the leading blank of Str; on the right-aligned labels it falls on the left, unseen.
+QString Number(int value) { return QString::fromStdString(Str(value)); }
+
+void AddToTop(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() + TwipsToPixels(twips)); }
+}
+
+frmSummary::frmSummary(QWidget* owner)
+    : DialogWindow(owner, "Zarvo - Scoring Summary", GridWidth, GridHeight, TitleBar::CloseBox, true)
+{
+    cmdOK = new QPushButton("OK", this);
+    cmdOK->setGeometry(TwipsRect(3120, 3120, 1335, 375));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+    for (int i = 0; i < MaxPlayers; ++i) {
+        const int top = FirstRowTop + RowHeight * i;
+        lblName[i] = NewLabel(this, 240, top, 975, Qt::AlignLeft);
+        lblLeft[i] = NewLabel(this, 1440, top, 375, Qt::AlignRight);
+        lblRight[i] = NewLabel(this, 2040, top, 375, Qt::AlignRight);
+        lblBonus[i] = NewLabel(this, 2640, top, 375, Qt::AlignRight);
+        lblTotal[i] = NewLabel(this, 3240, top, 375, Qt::AlignRight);
+        lblZarvos[i] = NewLabel(this, 3900, top, 375, Qt::AlignRight);
+    }
+    lblPlayerLbl = NewLabel(this, 240, 195, 1095, Qt::AlignLeft, "Player:");
+    lblLeftLbl = NewLabel(this, 1440, 195, 375, Qt::AlignHCenter, "Left:");
+    lblRightLbl = NewLabel(this, 1920, 195, 615, Qt::AlignHCenter, "Right:");
+    lblBonusLbl = NewLabel(this, 2520, 195, 615, Qt::AlignHCenter, "Bonus:");
+    lblTotalLbl = NewLabel(this, 3120, 195, 615, Qt::AlignHCenter, "Total:");
+    lblZarvoLbl = NewLabel(this, 3840, 195, 615, Qt::AlignLeft, "Zarvos:");
+    lblTotals = NewLabel(this, 240, 2700, 975, Qt::AlignLeft, "Totals:");
+    lblTotalLeft = NewLabel(this, 1320, 2700, 495, Qt::AlignRight);
+    lblTotalRight = NewLabel(this, 1920, 2700, 495, Qt::AlignRight);
+    lblTotalBonus = NewLabel(this, 2520, 2700, 495, Qt::AlignRight);
+    lblTotalTotal = NewLabel(this, 3120, 2700, 495, Qt::AlignRight);
+    lblTotalZarvos = NewLabel(this, 3900, 2700, 375, Qt::AlignRight);
+
+    ArrangeSummaryGrid();
+    FillSummaryGrid();
+}
+
+void frmSummary::ArrangeSummaryGrid()
+{
+    const int players = gPlayerNames.UBound();
+    for (int i = players; i < MaxPlayers; ++i)
+        for (Label* label : {lblName[i], lblLeft[i], lblRight[i], lblBonus[i], lblTotal[i], lblZarvos[i]})
+            label->hide();
+    // The heads stay; everything under the player rows moves up by the rows not needed.
+    const int shift = SummaryShift(players);
+    for (QWidget* below : std::initializer_list<QWidget*>{lblTotals, lblTotalLeft, lblTotalRight, lblTotalBonus,
+                                                          lblTotalTotal, lblTotalZarvos, cmdOK})
+        AddToTop(below, shift);
+    SetClientHeight(GridHeight + shift);
+    DrawGridLines(shift);
+
+    // Beside the main window's left edge, centred on it in height. Both windows carry the
+    // same title bar, so their client heights centre them as their outer heights would.
+    if (const QWidget* main = parentWidget() ? parentWidget()->window() : nullptr) {
+        const QRect outer = main->frameGeometry();
+        move(outer.x(), outer.y() + (main->height() - height()) / 2);
+    }
+}
+
+// Etched lines: each a dark line with a light one 15 twips below or to the right of it. The
+// upper ends stay; the lower ends of the verticals and the two bottom pairs follow the shift.
+// They lie under the labels, as lines drawn on the window itself do.
+void frmSummary::DrawGridLines(int shift)
+{
+    struct Ends { int x1, y1, x2, y2; };
+    const int bottom = 3000 + shift, under = 2580 + shift;
+    std::vector<std::pair<Ends, Ends>> pairs = {
+        {{105, 105, 4455, 105}, {120, 120, 4455, 120}},               // Line21, Line16
+        {{120, 480, 4440, 480}, {120, 495, 4440, 495}},               // Line1, Line7
+        {{120, under, 4440, under}, {120, under + 15, 4440, under + 15}},      // linBottom(0), (1)
+        {{120, bottom, 4440, bottom}, {120, bottom + 15, 4440, bottom + 15}},  // linBottom(2), (3)
+        {{105, 105, 105, bottom + 15}, {120, 120, 120, bottom + 15}},           // linVert(0), (1)
+    };
+    for (int x : {1320, 1920, 2520, 3120, 3720, 4440})   // linVert(2) to (13)
+        pairs.push_back({{x, 120, x, bottom}, {x + 15, 120, x + 15, bottom + 15}});
+    for (const auto& [dark, light] : pairs) {
+        (new Line(this, dark.x1, dark.y1, dark.x2, dark.y2, Look::InactiveTitleBar))->lower();
+        (new Line(this, light.x1, light.y1, light.x2, light.y2, Look::WindowBackground))->lower();
+    }
+}
+
+void frmSummary::FillSummaryGrid()
+{
+    const SummaryFigures figures = SumSummaryGrid();
+    for (int p = 1; p <= gPlayerNames.UBound(); ++p) {
+        const SummaryLine& line = figures.players[p - 1];
+        lblName[p - 1]->SetCaption(QString::fromStdString(PlayerDisplayName(p)));
+        lblLeft[p - 1]->SetCaption(Number(line.Left));
+        lblRight[p - 1]->SetCaption(Number(line.Right));
+        lblBonus[p - 1]->SetCaption(Number(line.Bonus));
+        lblTotal[p - 1]->SetCaption(Number(line.Total));
+        lblZarvos[p - 1]->SetCaption(Number(line.Zarvos));
+    }
+    lblTotalLeft->SetCaption(Number(figures.totals.Left));
+    lblTotalRight->SetCaption(Number(figures.totals.Right));
+    lblTotalBonus->SetCaption(Number(figures.totals.Bonus));
+    lblTotalTotal->SetCaption(Number(figures.totals.Total));
+    lblTotalZarvos->SetCaption(Number(figures.totals.Zarvos));
+}
