@@ -15,23 +15,23 @@ const DateTime Stamp{2026, 5, 4, 21, 15, 9};
 const std::string Fresh = "Ottilie|248;Bramwell|231;Quince|219;Marisol|207;Fenwick|196;Ludmila|188;Tobiah|175;Wren|163;"
                           "Castor|150;Isadora|142";
 const Names One{"< Player 1 >"};
-struct Case { const char* damage; Names players; std::vector<int> totals; Names shown; std::string table, message; };
+struct Case { const char *name, *damage; Names players; std::vector<int> totals; Names shown;
+              std::string table, message{}; };
+void PrintTo(const Case& c, std::ostream* out) { *out << c.name; }
 const Case Cases[] = {
-    {"", One, {142}, {}, Fresh},   // equal to the lowest is not enough
-    {"", One, {143}, {"Player 1", "table"}, Fresh.substr(0, Fresh.find("Isadora")) + "Player 1's|143"},
-    // A later player meets the table as the earlier ones left it.
-    {"", {"Ann", "< Player 2 >", "Bo"}, {160, 145, 151}, {"Ann", "table", "Bo", "table"},
-     Fresh.substr(0, Fresh.find("Castor")) + "Ann's|160;Bo's|151"},
+    {"EqualToTheLowestIsNotEnough", "", One, {142}, {}, Fresh},
+    {"OneAbove", "", One, {143}, {"Player 1", "table"}, Fresh.substr(0, Fresh.find("Isadora")) + "Player 1's|143"},
+    {"LaterPlayersMeetTheTableAsLeft", "", {"Ann", "< Player 2 >", "Bo"}, {160, 145, 151},
+     {"Ann", "table", "Bo", "table"}, Fresh.substr(0, Fresh.find("Castor")) + "Ann's|160;Bo's|151"},
     // An empty score counts as the lowest, text as the highest; a missing row stays missing.
-    {"UPDATE HighScores SET Score = NULL WHERE Player = 'Wren'; DELETE FROM HighScores WHERE Player = 'Ottilie';"
-     "UPDATE HighScores SET Score = 'lots' WHERE Player = 'Quince'", One, {143}, {"Player 1", "table"},
+    {"DamagedTable", "UPDATE HighScores SET Score = NULL WHERE Player = 'Wren'; UPDATE HighScores SET Score = 'lots' "
+     "WHERE Player = 'Quince'; DELETE FROM HighScores WHERE Player = 'Ottilie'", One, {143}, {"Player 1", "table"},
      "Quince|lots;Bramwell|231;Marisol|207;Fenwick|196;Ludmila|188;Tobiah|175;Castor|150;Player 1's|143;Isadora|142"},
-    // A file that cannot be opened (one without its Setup table) is told once, to the first player.
-    {"DROP TABLE Setup", Names(8, "< Player 1 >"), std::vector<int>(8, 300), {}, Fresh,
-     "There was an error opening the data file."},
-    // A file that refuses the entry tells the player who typed a name.
-    {"CREATE TRIGGER Refuse BEFORE UPDATE ON HighScores BEGIN SELECT RAISE(ABORT, 'no'); END", One, {300},
-     {"Player 1", "table"}, Fresh, "There was an error writing the data file."},
+    // A file without its Setup table cannot be opened, as a missing one.
+    {"UnopenedFileToldOnceToTheFirstPlayer", "DROP TABLE Setup", Names(8, "< Player 1 >"), std::vector<int>(8, 300), {},
+     Fresh, "There was an error opening the data file."},
+    {"RefusedWriteToldToThePlayer", "CREATE TRIGGER No BEFORE UPDATE ON HighScores BEGIN SELECT RAISE(ABORT, '');"
+     "END", One, {300}, {"Player 1", "table"}, Fresh, "There was an error writing the data file."},
 };
 
 struct CheckHighScoreTest : DataFileFixture, ::testing::WithParamInterface<Case> {
