@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "Accessible.h"
+#include "QtServices.h"
 #include "Twips.h"
 
 Label::Label(QWidget* parent, Qt::Alignment alignment) : QWidget(parent), alignment_(alignment) {}
@@ -65,6 +66,15 @@ void Label::mouseReleaseEvent(QMouseEvent* event)
         emit MouseUp(button);
     if (click)
         emit Click();
+}
+
+Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
+                Qt::Alignment alignment)
+{
+    auto* label = new Label(parent, alignment);
+    label->setGeometry(TwipsRect(left, top, width, height));
+    label->SetCaption(caption);
+    return label;
 }
 
 Line::Line(QWidget* parent, int x1, int y1, int x2, int y2, const QColor& color) : QWidget(parent)

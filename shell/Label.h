@@ -43,6 +43,10 @@ private:
     bool leftPressed_ = false;
 };
 
+// A label at its twip rectangle in `parent`, with its caption.
+Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
+                Qt::Alignment alignment = Qt::AlignLeft);
+
 // A straight line of one pixel, from (x1, y1) to (x2, y2) in twips of its parent.
 class Line : public QWidget {
 public:

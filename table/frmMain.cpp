@@ -28,15 +28,6 @@ constexpr int PanelBorderPixels = 2;
 
 QColor Rgb(std::uint32_t rgb) { return QColor::fromRgb(QRgb(rgb)); }
 
-Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
-                Qt::Alignment alignment = Qt::AlignLeft)
-{
-    auto* label = new Label(parent, alignment);
-    label->setGeometry(TwipsRect(left, top, width, height));
-    label->SetCaption(caption);
-    return label;
-}
-
 // Form_KeyDown's key numbers; 0 for keys it does not look at.
 int KeyCodeOf(int qtKey)
 {

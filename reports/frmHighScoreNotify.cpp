@@ -1,0 +1,71 @@
+#include "frmHighScoreNotify.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "Label.h"
+#include "Look.h"
+#include "NameKeyRule.h"
+#include "QtServices.h"
+#include "modGlobalVars.h"
+
+frmHighScoreNotify::frmHighScoreNotify(QWidget* owner)
+    : DialogWindow(owner, "Zarvo - High Score", 2760, 1965, TitleBar::NoCloseBox, false)
+{
+    // Created first, so first in the tab order: the window opens on OK, and Enter keeps the
+    // offered name.
+    cmdOK = new QPushButton("OK", this);
+    cmdOK->setGeometry(TwipsRect(1440, 1485, 1215, 375));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+
+    lblCongrats[0] = NewLabel(this, 120, 120, 2535, 255, "Congratulations!", Qt::AlignHCenter);
+    lblCongrats[0]->setFont(Look::CaptionFont());
+    lblCongrats[1] = NewLabel(this, 120, 360, 2535, 255, "You got a High Score!", Qt::AlignHCenter);
+    QFont bold = Look::CaptionFont();
+    bold.setBold(true);
+    lblCongrats[1]->setFont(bold);
+    lblCongrats[2] = NewLabel(this, 480, 720, 1815, 495, "(Please enter your name as you want it to appear.)",
+                              Qt::AlignHCenter);
+    new Line(this, 60, 1200, 2700, 1200, Look::InactiveTitleBar);   // Line1
+    new Line(this, 60, 1215, 2700, 1215, Look::WindowBackground);   // Line2
+    lblPlayerName = NewLabel(this, 120, 1320, 1215, 255, "Player Name:");
+
+    txtName = new QLineEdit(this);
+    txtName->setGeometry(TwipsRect(120, 1560, 1215, 285));
+    txtName->setMaxLength(12);
+    txtName->setToolTip("Enter your name.");
+    txtName->setAccessibleName("Player name");
+    txtName->installEventFilter(this);
+
+    txtName->setText(QString::fromStdString(gHighScoreName));
+    cmdOK->setFocus();
+}
+
+void frmHighScoreNotify::cmdOK_Click()
+{
+    gHighScoreName = txtName->text().toStdString();
+    accept();
+}
+
+bool frmHighScoreNotify::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != txtName || event->type() != QEvent::KeyPress)
+        return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    // Enter presses OK and Tab moves on: they are the window's keys, not typed characters.
+    switch (key->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Escape: return false;
+    }
+    if (key->text().isEmpty())
+        return false;   // a key that types nothing: arrows, Delete, Home, End
+    // Backspace types code 8, which the rule lets through.
+    const int selStart = txtName->hasSelectedText() ? txtName->selectionStart() : txtName->cursorPosition();
+    return NameKeyRefused(key->text().at(0).unicode(), selStart, txtName->selectionLength(),
+                          int(txtName->text().size()));
+}

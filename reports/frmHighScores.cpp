@@ -1,0 +1,64 @@
+#include "frmHighScores.h"
+
+#include <QPushButton>
+
+#include "Frame.h"
+#include "Label.h"
+#include "Look.h"
+#include "QtServices.h"
+#include "modDatabase.h"
+
+namespace {
+constexpr int RowTops[HighScoreRows] = {555, 900, 1260, 1620, 1980, 2340, 2700, 3060, 3420, 3780};
+
+void SetBold(Label* label)
+{
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+}
+}
+
+frmHighScores::frmHighScores(QWidget* owner)
+    : DialogWindow(owner, "Zarvo - High Scores", 4575, 4845, TitleBar::CloseBox, true)
+{
+    fraTopTen = new Frame(this);
+    fraTopTen->setGeometry(TwipsRect(120, 120, 4335, 4135));
+    lblNameLbl = NewLabel(fraTopTen, 600, 180, 1335, 255, "Player:");
+    lblScoreLbl = NewLabel(fraTopTen, 1920, 180, 615, 255, "Score:", Qt::AlignHCenter);
+    blbDateLbl = NewLabel(fraTopTen, 2760, 180, 1455, 255, "Date:");
+    for (Label* heading : {lblNameLbl, lblScoreLbl, blbDateLbl})
+        SetBold(heading);
+    new Line(fraTopTen, 60, 450, 4260, 450, Look::InactiveTitleBar);   // Line1
+    new Line(fraTopTen, 60, 465, 4260, 465, Look::WindowBackground);   // Line2
+    for (int i = 0; i < HighScoreRows; ++i) {
+        lblNumbers[i] = NewLabel(fraTopTen, 120, RowTops[i], 255, 255, QString("%1.").arg(i + 1));
+        lblPlayerName[i] = NewLabel(fraTopTen, 600, RowTops[i], 1335, 255, "");
+        lblScore[i] = NewLabel(fraTopTen, 1920, RowTops[i], 495, 255, "", Qt::AlignRight);
+        lblDate[i] = NewLabel(fraTopTen, 2760, RowTops[i], 1455, 255, "");
+    }
+
+    cmdOK = new QPushButton("OK", this);
+    cmdOK->setGeometry(TwipsRect(3120, 4365, 1335, 375));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);   // cmdOK_Click
+
+    loaded_ = Form_Load();
+}
+
+bool frmHighScores::Form_Load()
+{
+    if (!OpenDataFile(true))
+        return false;
+    const auto lines = ReadHighScoreLines(Now());
+    CloseDataFile();
+    for (int r = 0; r < HighScoreRows; ++r) {
+        if (lines[r].bold)
+            for (Label* label : {lblPlayerName[r], lblScore[r], lblDate[r]})
+                SetBold(label);
+        lblPlayerName[r]->SetCaption(QString::fromStdString(lines[r].player));
+        lblScore[r]->SetCaption(QString::fromStdString(lines[r].score));
+        lblDate[r]->SetCaption(QString::fromStdString(lines[r].date));
+    }
+    return true;
+}
