@@ -1,6 +1,5 @@
-// The list of known players: what may be typed as a name, and Add and Remove, which change
-// the dialog's lists and the data file at once. Close does not undo them.
-#include <cstring>
+// The list of known players: Add and Remove change the dialog's lists and the data file at
+// once. Close does not undo them.
 #include <initializer_list>
 
 #include "MsgBox.h"
@@ -9,10 +8,6 @@
 #include "modDatabase.h"
 
 namespace {
-constexpr int vbKeyBack = 8;
-constexpr int MaxNameLength = 12;
-const char* const NameCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 ";
-
 std::string Lines(std::initializer_list<const char*> lines)
 {
     std::string text;
@@ -34,18 +29,6 @@ void ShowFileError(const char* consequence)
     MsgBox(Lines({"There is an error in the data file.", consequence}), vbOKOnly | vbCritical,
            "Zarvo - Cannot Open Data File");
 }
-}
-
-// A typed key replaces the selection, if there is one, so only a blank at the start is
-// refused then; without a selection the name must stay short and plain.
-void cboAddRemove_KeyPress(int& KeyAscii, int TextLength, int SelStart, int SelLength)
-{
-    const int upper = KeyAscii >= 'a' && KeyAscii <= 'z' ? KeyAscii - 'a' + 'A' : KeyAscii;
-    const bool plain = upper > 0 && upper < 128 && std::strchr(NameCharacters, upper);
-    const bool blankAtStart = KeyAscii == ' ' && SelStart == 0;
-    const bool refused = SelLength == 0 && KeyAscii != vbKeyBack && (TextLength >= MaxNameLength || !plain);
-    if (blankAtStart || refused)
-        KeyAscii = 0;
 }
 
 void PlayerSelection::cmdAdd_Click(std::string& Text)

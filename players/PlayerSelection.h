@@ -50,7 +50,3 @@ private:
     void GiveBackToOtherBoxes(int Index, const std::string& name);
     void RemoveEverywhere(const std::string& name);
 };
-
-// cboAddRemove_KeyPress for a typed key: sets KeyAscii to 0 when the key must be dropped.
-// TextLength counts the characters of the box's text.
-void cboAddRemove_KeyPress(int& KeyAscii, int TextLength, int SelStart, int SelLength);

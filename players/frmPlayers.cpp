@@ -1,17 +1,17 @@
 #include "frmPlayers.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
 #include "GameTable.h"
 #include "Look.h"
+#include "NameKeyRule.h"
 #include "QtServices.h"
+#include "TypedKeyFilter.h"
 #include "modCommon.h"
 
 namespace {
 constexpr int ClientWidth = 3615, TwoSeatHeight = 2685;   // with two seats
-constexpr int vbKeyBack = 8;
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
@@ -96,10 +96,8 @@ void frmPlayers::CreateAddRemove()
     cboAddRemove->setGeometry(TwipsRect(120, 270, 1455, 315));
     cboAddRemove->setToolTip("Select player to remove, or enter name to add.");
     cboAddRemove->setAccessibleName("Player name");
-    // Typed keys reach the box, which hands them to its text field; keys sent to the field
-    // itself come that way too.
-    cboAddRemove->installEventFilter(this);
-    cboAddRemove->lineEdit()->installEventFilter(this);
+    // cboAddRemove_KeyPress: typed keys reach the box, which hands them to its text field.
+    FilterTypedKeys(cboAddRemove->lineEdit(), NameKeyRefused, cboAddRemove);
     cmdAdd = new QPushButton("Add", fraAddRemove);
     cmdAdd->setGeometry(TwipsRect(1680, 270, 615, 315));
     cmdAdd->setToolTip("Add the player to the list.");
@@ -128,28 +126,6 @@ void frmPlayers::ShowSelection()
     fraCurrentPlayers->setGeometry(TwipsRect(120, 120, 3375, 1095 + grown));
     fraAddRemove->setVisible(selection_.fraAddRemoveVisible);
     lblNote->setVisible(!selection_.fraAddRemoveVisible);
-}
-
-bool frmPlayers::eventFilter(QObject* watched, QEvent* event)
-{
-    if ((watched != cboAddRemove && watched != cboAddRemove->lineEdit()) || event->type() != QEvent::KeyPress)
-        return false;
-    // Only keys that type a character, and Backspace: editing keys and shortcuts pass, so a
-    // name pasted with Ctrl+V is not filtered.
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return false;
-    int KeyAscii = 0;
-    if (key->key() == Qt::Key_Backspace)
-        KeyAscii = vbKeyBack;
-    else if (key->text().size() == 1 && key->text()[0].isPrint())
-        KeyAscii = key->text()[0].unicode();
-    else
-        return false;
-    const QLineEdit* edit = cboAddRemove->lineEdit();
-    const int selStart = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
-    cboAddRemove_KeyPress(KeyAscii, int(edit->text().size()), selStart, int(edit->selectedText().size()));
-    return KeyAscii == 0;
 }
 
 void frmPlayers::cmdAdd_Click()

@@ -30,10 +30,6 @@ public:
     QPushButton* cmdCancel = nullptr;
     QPushButton* cmdPlay = nullptr;
 
-protected:
-    // cboAddRemove_KeyPress on the keys typed into the box.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void CreateSeats();
     void CreateAddRemove();

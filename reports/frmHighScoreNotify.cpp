@@ -1,6 +1,5 @@
 #include "frmHighScoreNotify.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -8,6 +7,7 @@
 #include "Look.h"
 #include "NameKeyRule.h"
 #include "QtServices.h"
+#include "TypedKeyFilter.h"
 #include "modGlobalVars.h"
 
 frmHighScoreNotify::frmHighScoreNotify(QWidget* owner)
@@ -37,7 +37,7 @@ frmHighScoreNotify::frmHighScoreNotify(QWidget* owner)
     txtName->setMaxLength(12);
     txtName->setToolTip("Enter your name.");
     txtName->setAccessibleName("Player name");
-    txtName->installEventFilter(this);
+    FilterTypedKeys(txtName, NameKeyRefused);   // txtName_KeyPress
 
     txtName->setText(QString::fromStdString(gHighScoreName));
     cmdOK->setFocus();
@@ -47,25 +47,4 @@ void frmHighScoreNotify::cmdOK_Click()
 {
     gHighScoreName = txtName->text().toStdString();
     accept();
-}
-
-bool frmHighScoreNotify::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched != txtName || event->type() != QEvent::KeyPress)
-        return false;
-    const auto* key = static_cast<QKeyEvent*>(event);
-    // Enter presses OK and Tab moves on: they are the window's keys, not typed characters.
-    switch (key->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-    case Qt::Key_Escape: return false;
-    }
-    if (key->text().isEmpty())
-        return false;   // a key that types nothing: arrows, Delete, Home, End
-    // Backspace types code 8, which the rule lets through.
-    const int selStart = txtName->hasSelectedText() ? txtName->selectionStart() : txtName->cursorPosition();
-    return NameKeyRefused(key->text().at(0).unicode(), selStart, txtName->selectionLength(),
-                          int(txtName->text().size()));
 }

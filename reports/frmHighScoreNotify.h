@@ -17,10 +17,6 @@ public:
     QLineEdit* txtName;
     QPushButton* cmdOK;
 
-protected:
-    // txtName_KeyPress.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void cmdOK_Click();
 };

@@ -1,5 +1,6 @@
 #pragma once
-// txtName_KeyPress: which typed characters a name box takes.
+// The KeyPress rule of the two name boxes, cboAddRemove of the player dialog and txtName of
+// the new-high-score dialog: which typed characters a name takes.
 
 // True when the character `keyAscii` is thrown away: a blank before the first character (even
 // over a selection), or, with nothing selected, anything but backspace (8) that is not a
