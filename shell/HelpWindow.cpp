@@ -38,14 +38,12 @@ HelpWindow::HelpWindow(const QString& helpFile) : helpFile_(helpFile), collectio
     resize(760, 520);
     QHelpEngine& engine = collection_.Engine();
 
-    auto* splitter = new QSplitter(this);
-    panes_ = splitter;
-    finder_ = new QTabWidget(splitter);
-    page_ = new HelpPage(engine, splitter);
-    page_->setOpenExternalLinks(true);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({230, 530});
-    (new QHBoxLayout(this))->addWidget(splitter);
+    panes_ = new QSplitter(this);
+    finder_ = new QTabWidget(panes_);
+    page_ = new HelpPage(engine, panes_);
+    panes_->setStretchFactor(1, 1);
+    panes_->setSizes({230, 530});
+    (new QHBoxLayout(this))->addWidget(panes_);
 
     QHelpContentWidget* contents = engine.contentWidget();
     finder_->addTab(contents, "&Contents");

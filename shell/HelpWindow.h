@@ -6,6 +6,7 @@
 
 #include "HelpCollection.h"
 
+class QSplitter;
 class QTabWidget;
 class QTextBrowser;
 
@@ -27,7 +28,7 @@ private:
 
     QString helpFile_;
     HelpCollection collection_;
-    QWidget* panes_ = nullptr;
+    QSplitter* panes_ = nullptr;
     QTabWidget* finder_ = nullptr;
     QTextBrowser* page_ = nullptr;
 };
