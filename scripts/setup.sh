@@ -7,10 +7,15 @@ packages=(
   build-essential cmake            # compiler and build
   qt6-base-dev libgl-dev           # Qt 6 Widgets (its CMake files need the GL headers)
   qt6-base-private-dev             # the accessibility test switches the platform bridge on
+  qt6-tools-dev qt6-tools-dev-tools libqt6help6 qt6-documentation-tools
+                                   # Qt's help framework and qhelpgenerator, for the help
+  libqt6sql6-sqlite                # the help engine keeps its collection in SQLite
   libsqlite3-dev                   # the data file
-  fonts-liberation                 # the windows' font
+  fonts-liberation                 # the windows' fonts, sans-serif and serif
   libgtest-dev googletest          # tests
   xvfb xauth libx11-dev            # the smoke test of the real window
+  desktop-file-utils appstream     # the install test validates the menu entry and metadata
+  xdotool sqlite3                  # ... and plays the installed game, reading its data file
 )
 
 missing=()

@@ -11,9 +11,14 @@ inline const QColor InactiveTitleBar{0x80, 0x80, 0x80};    // dark half of a gro
 inline const QColor ApplicationWorkspace{0x80, 0x80, 0x80};
 inline const QColor TitleBarText{0xFF, 0xFF, 0xFF};
 
-// Fonts: a freely licensed narrow sans-serif (Debian's fonts-liberation) in pixel sizes, so
-// that captions fit their twip widths whatever the screen's dots per inch.
+// Fonts, freely licensed stand-ins from Debian's fonts-liberation, in pixel sizes so that
+// captions fit their twip widths whatever the screen's dots per inch:
+// Liberation Sans Narrow for MS Sans Serif, Liberation Serif (metric-compatible with it) for
+// Times New Roman.
 inline constexpr const char* FontFamily = "Liberation Sans Narrow";
+inline constexpr const char* SerifFamily = "Liberation Serif";
 QFont DefaultFont();      // the windows' default font
 QFont CaptionFont();      // stands in for 9.75 point MS Sans Serif
+QFont TitleFont();        // stands in for bold 18 point Times New Roman
+QFont SmallSerifFont();   // stands in for 8.25 point Times New Roman
 }

@@ -1,12 +1,15 @@
 // Zarvo: the program starts by loading the game table window and ends when it is unloaded.
 #include <QApplication>
 
+#include "AppInfo.h"
 #include "GameDialogs.h"
 #include "QtServices.h"
 
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
+    QApplication::setApplicationVersion(ZarvoVersion);
+    QApplication::setDesktopFileName(ZarvoDesktopId);   // ties the windows to the menu entry and icon
     InstallQtServices(app);
     frmMain form;
     GameDialogs dialogs(form);

@@ -13,8 +13,10 @@
 #include <QTimer>
 
 #include "Accessible.h"
+#include "AppPath.h"
 #include "DieFaces.h"
 #include "Look.h"
+#include "frmAbout.h"
 #include "QBColor.h"
 #include "QtServices.h"
 #include "Twips.h"
@@ -249,6 +251,8 @@ void frmMain::CreateMenu()
             dialogs_->ShowHighScores();
     });
     connect(mnuExit, &QAction::triggered, this, [this] { Unload(); });
+    connect(mnuInstructions, &QAction::triggered, this, [this] { mnuInstructions_Click(); });
+    connect(mnuAbout, &QAction::triggered, this, [this] { mnuAbout_Click(); });
     // Qt turns a checkable item's mark before it reports the click; these two click routines
     // turn the mark themselves (the keyboard offer calls one of them too), so give the turn back.
     connect(mnuUseKeyboard, &QAction::triggered, this, [this](bool checked) {
@@ -263,6 +267,8 @@ void frmMain::CreateMenu()
 
 void frmMain::Form_Load()
 {
+    dlgHelp.HelpFile = AppFile("Zarvo.hlp");
+    dlgHelp.HelpCommand = cdlHelpContextPopup;
     if (const QScreen* screen = QApplication::primaryScreen()) {
         const QRect area = screen->geometry();
         move(area.x() + (area.width() - width()) / 2, area.y() + (area.height() - height()) / 2);
@@ -290,6 +296,19 @@ void frmMain::closeEvent(QCloseEvent* event)
 }
 
 void frmMain::Unload() { close(); }
+
+void frmMain::mnuInstructions_Click()
+{
+    dlgHelp.HelpCommand = cdlHelpFinder;
+    dlgHelp.ShowHelp();
+    dlgHelp.HelpCommand = cdlHelpContext;
+}
+
+void frmMain::mnuAbout_Click()
+{
+    frmAbout about(this);
+    about.exec();
+}
 
 SetupMarks frmMain::Marks() const
 {

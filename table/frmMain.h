@@ -8,6 +8,7 @@
 #include "Dialogs.h"
 #include "Frame.h"
 #include "GameTable.h"
+#include "HelpDialog.h"
 #include "Label.h"
 #include "SavedSetup.h"
 
@@ -47,6 +48,7 @@ public:
     Label *lblLeftLbl = nullptr, *lblRightLbl = nullptr, *lblBonusLbl = nullptr, *lblTotalLbl = nullptr;
     Label *lblLeftTotal = nullptr, *lblRightTotal = nullptr, *lblBonusTotal = nullptr, *lblTotal = nullptr;
     QTimer* tmrRoll = nullptr;
+    HelpDialog dlgHelp;
     std::array<QPixmap, 7> ilsDie, ilsDieInv;   // 1..6
 
     QMenu *mnuFile = nullptr, *mnuOptions = nullptr, *mnuHelp = nullptr;
@@ -108,6 +110,8 @@ private:
     QAction* OptionItem(Option option) const;
     SetupMarks Marks() const;
     void WakeRollTimer();
+    void mnuInstructions_Click();
+    void mnuAbout_Click();
     // What a screen reader says of a die and of a cell, kept up to date with their looks.
     void NameDie(int i);
     void NameCell(int category);

@@ -1,0 +1,81 @@
+#include "frmAbout.h"
+
+#include <QPainter>
+#include <QPushButton>
+#include <qdrawutil.h>
+
+#include "Label.h"
+#include "Look.h"
+#include "QtServices.h"
+#include "TitleArt.h"
+#include "Twips.h"
+#include "AppInfo.h"
+
+namespace {
+constexpr int AboutWidth = 4065, AboutHeight = 2295;
+// A fixed dialog frame: a raised two-pixel bevel and one pixel of face colour inside it.
+constexpr int BorderPixels = 3;
+
+Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
+                const QFont& font)
+{
+    auto* label = new Label(parent, Qt::AlignHCenter);
+    label->setGeometry(TwipsRect(left, top, width, height));
+    label->SetCaption(caption);
+    label->setFont(font);
+    return label;
+}
+}
+
+frmAbout::frmAbout(QWidget* owner)
+    : DialogWindow(owner, QString(), AboutWidth, AboutHeight, TitleBar::NoCloseBox, false)
+{
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    setFixedSize(TwipsToPixels(AboutWidth) + 2 * BorderPixels, TwipsToPixels(AboutHeight) + 2 * BorderPixels);
+    auto* client = new QWidget(this);
+    client->setGeometry(BorderPixels, BorderPixels, TwipsToPixels(AboutWidth), TwipsToPixels(AboutHeight));
+
+    imgMain = new Label(client);
+    imgMain->setGeometry(TwipsRect(120, 120, 2190, 1755));
+    // Stretched to its rectangle, at the screen's pixel density.
+    const qreal ratio = devicePixelRatioF();
+    QPixmap art = QPixmap::fromImage(DrawTitleArt().scaled(imgMain->size() * ratio, Qt::IgnoreAspectRatio,
+                                                           Qt::SmoothTransformation));
+    art.setDevicePixelRatio(ratio);
+    imgMain->SetPicture(art);
+
+    picTitle = new QWidget(client);
+    picTitle->setGeometry(TwipsRect(2400, 120, 1575, 655));
+    lblTitle = NewLabel(picTitle, 0, 0, 1095, 375, "Zarvo", Look::TitleFont());
+    lblVersion = new Label(picTitle);
+    lblVersion->setGeometry(TwipsRect(600, 360, 855, 255));
+    lblVersion->SetCaption(QString("Version ") + ZarvoVersion);
+
+    lblInfo = NewLabel(client, 2520, 840, 1335, 855, "Five dice and a score card for one to eight players.",
+                       Look::SmallSerifFont());
+    lblProgrammer = NewLabel(client, 60, 1920, 2295, 375, "Written for the fun of it by the Zarvo developers.",
+                             Look::SmallSerifFont());
+
+    cmdOK = new QPushButton("OK", client);
+    cmdOK->setGeometry(TwipsRect(2520, 1800, 1335, 375));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    CentreOnOwner();
+}
+
+void frmAbout::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    qDrawWinPanel(&painter, rect(), palette(), false);
+}
+
+void frmAbout::cmdOK_Click()
+{
+    accept();
+    // The main window comes forward again, as it stood before the box opened.
+    if (QWidget* owner = parentWidget()) {
+        owner->show();
+        owner->raise();
+        owner->activateWindow();
+    }
+}

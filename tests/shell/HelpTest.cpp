@@ -1,0 +1,95 @@
+// The help as it ships, and the Help menu of the game table.
+#include <QFile>
+#include <QHelpContentWidget>
+#include <QHelpIndexWidget>
+#include <QHelpLink>
+#include <QHelpSearchEngine>
+#include <QHelpSearchQueryWidget>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTextBrowser>
+
+#include "HelpWindow.h"
+#include "ModalAnswer.h"
+#include "QtServices.h"
+#include "Scoring.h"
+#include "WindowFixture.h"
+#include "frmAbout.h"
+
+// Every page named in the contents exists; the index and a search find the pages of their words.
+TEST(Help, ContentsIndexAndSearchFindThePages)
+{
+    HelpCollection help(ZARVO_HELP_FILE);
+    QHelpEngine& engine = help.Engine();
+    QHelpSearchEngine* search = engine.searchEngine();
+    QSignalSpy created(engine.contentModel(), &QHelpContentModel::contentsCreated), indexed(search, &QHelpSearchEngine::indexingFinished),
+        found(search, &QHelpSearchEngine::searchingFinished);
+    ASSERT_TRUE(help.Registered() && created.wait(10000) && (indexed.count() || indexed.wait(10000)));
+    QList<QHelpContentItem*> items = {engine.contentModel()->contentItemAt(engine.contentModel()->index(0, 0))};
+    for (int k = 0; k < items.size(); ++k) {
+        EXPECT_FALSE(engine.fileData(items[k]->url()).isEmpty()) << items[k]->title().toStdString();
+        for (int i = 0; i < items[k]->childCount(); ++i)
+            items << items[k]->child(i);
+    }
+    EXPECT_EQ(engine.documentsForKeyword("Full House").value(0).url.fileName(), "fullhouse.html");
+    EXPECT_EQ(engine.documentsForKeyword("Remember Players").value(0).url.fileName(), "players.html");
+    search->search("bonus");
+    ASSERT_TRUE(found.wait(10000));
+    const QList<QHelpSearchResult> results = search->searchResults(0, search->searchResultCount());
+    EXPECT_TRUE(std::any_of(results.begin(), results.end(), [](auto& r) { return r.url().fileName() == "bonus.html"; }));
+}
+
+// Rows of dice, category, what the card held by the card's own names ("Ones 4, Zarvo 50"), score, bonus.
+TEST(Help, ScoringExamplesAgreeWithTheRules)
+{
+    const QStringList rows = {"", "Ones", "Twos", "Threes", "Fours", "Fives", "Sixes", "Three of a Kind",
+        "Four of a Kind", "Full House", "Small Straight", "Large Straight", "Zarvo", "Chance", "Bonus"};
+    const QRegularExpression held("([A-Z][A-Za-z ]*) (\\d+)"), example("<tr><td>([1-6]) ([1-6]) ([1-6]) ([1-6]) ([1-6])"
+        "</td><td>([^<]*)</td><td>([^<]*)</td><td class=\"num\">(\\d+)</td><td class=\"num\">(\\d+)</td></tr>");
+    HelpCollection help(ZARVO_HELP_FILE);
+    QStringList covered;
+    for (const QUrl& page : help.Engine().files(help.Engine().registeredDocumentations().first(), QString(), "html"))
+        for (const QRegularExpressionMatch& m : example.globalMatch(QString::fromUtf8(help.Engine().fileData(page)))) {
+            ScoreCard card{{0, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, 0}};   // all open, no bonus
+            for (const QRegularExpressionMatch& entry : held.globalMatch(m.captured(7)))   // a stray name throws
+                card[rows.indexOf(entry.captured(1))] = std::int16_t(entry.captured(2).toInt());
+            auto n = [&m](int i) { return m.captured(i).toInt(); };
+            const Evaluation e = EvaluateCategory({n(1), n(2), n(3), n(4), n(5)}, card, rows.indexOf(m.captured(6)));
+            EXPECT_EQ(QString("%1 %2").arg(e.score).arg(e.bonus), m.captured(8) + ' ' + m.captured(9)) << m.captured(0).toStdString();
+            covered << m.captured(6);
+        }
+    covered.removeDuplicates();
+    EXPECT_EQ(covered.size(), CategoryCount) << covered.join(", ").toStdString();
+}
+
+// F1 opens the help beside the game at its contents; About: no title bar, centred, controls in place, OK.
+TEST_F(WindowTest, HelpMenuContentsAndAbout)
+{
+    ASSERT_TRUE(QFile::copy(ZARVO_HELP_FILE, dir.filePath("Zarvo.hlp")));
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form.get(), Qt::Key_F1);
+    HelpWindow* help = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return (help = dynamic_cast<HelpWindow*>(QApplication::activeWindow())); }));
+    EXPECT_TRUE(!help->isModal() && help->findChild<QHelpContentWidget*>()->isVisible() &&   // contents in front
+                help->findChild<QHelpIndexWidget*>() && help->findChild<QHelpSearchQueryWidget*>());
+    EXPECT_TRUE(QTest::qWaitFor([help] { return help->findChild<QTextBrowser*>()->source().fileName() == "index.html"; }));
+
+    AnswerNextModal([this](QWidget* modal) {
+        auto* about = dynamic_cast<frmAbout*>(modal);
+        EXPECT_TRUE(about->windowFlags().testFlag(Qt::FramelessWindowHint));
+        EXPECT_LE((about->frameGeometry().center() - form->frameGeometry().center()).manhattanLength(), 2);
+        EXPECT_EQ(about->imgMain->parentWidget()->size(), TwipsRect(0, 0, 4065, 2295).size());
+        const std::pair<QWidget*, QRect> places[] = {{about->imgMain, TwipsRect(120, 120, 2190, 1755)},
+            {about->picTitle, TwipsRect(2400, 120, 1575, 655)}, {about->lblTitle, TwipsRect(0, 0, 1095, 375)},
+            {about->lblVersion, TwipsRect(600, 360, 855, 255)}, {about->lblInfo, TwipsRect(2520, 840, 1335, 855)},
+            {about->lblProgrammer, TwipsRect(60, 1920, 2295, 375)}, {about->cmdOK, TwipsRect(2520, 1800, 1335, 375)}};
+        for (auto [control, place] : places)
+            EXPECT_EQ(control->geometry(), place);
+        EXPECT_EQ(about->lblVersion->Caption(), "Version 1.0");
+        QTest::keyClick(about, Qt::Key_Return);   // OK, the default button
+    });
+    form->mnuAbout->trigger();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+}
