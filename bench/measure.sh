@@ -6,7 +6,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
 bin=$build/bin
-xwindow=$build/tests/smoke/xwindow
+xwindow=$build/bench/xwindow
 bench=$build/bench
 runs=${RUNS:-7}
 

@@ -16,7 +16,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cp "$build/bin/Zarvo" "$work/"
 
-xvfb-run -a -s "-screen 0 800x600x24" bash -s "$mode" "$work" "$build/tests/smoke/xwindow" "$out" <<'INNER'
+xvfb-run -a -s "-screen 0 800x600x24" bash -s "$mode" "$work" "$build/bench/xwindow" "$out" <<'INNER'
 set -euo pipefail
 mode=$1; work=$2; xwindow=$3; out=$4
 "$work/Zarvo" & pid=$!

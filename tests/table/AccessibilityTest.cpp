@@ -36,6 +36,7 @@ TEST_F(Accessibility, TheCardAndTheDiceCanBeRead)
     QStringList tree = Tree();
     for (const char* category : categories)
         EXPECT_TRUE(tree.contains(QString(category) + ": open")) << category;
+    EXPECT_TRUE(tree.contains("Three of a Kind")) << "a row caption is read without its dots";
     EXPECT_TRUE(tree.contains("Player 1's turn. Please roll."));
     EXPECT_TRUE(tree.contains("Player 1's Scoreboard"));
 

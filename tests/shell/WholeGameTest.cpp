@@ -1,0 +1,148 @@
+// Whole games on the real window with the real dialogs: two players to the end, the first by
+// mouse and the second by keys, then a second game ended with No. The dice of each turn are set
+// by the test after the roll; the expected cells, totals and dialog texts are worked out by hand.
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include "DataFileFixture.h"
+#include "GameDialogs.h"
+#include "frmHighScoreNotify.h"
+#include "frmHighScores.h"
+#include "frmPlayerResults.h"
+#include "frmSummary.h"
+
+namespace {
+// One card: the dice, the category taken, and what its box shows in the preview (score and bonus).
+const struct Turn { DiceValues dice; int category; const char* preview; const char* cell; } Card[] = {
+    {{1, 1, 1, 2, 3}, CatOnes, "3 ", "3 "}, {{2, 2, 2, 5, 6}, CatTwos, "6 ", "6 "},
+    {{3, 3, 3, 3, 1}, CatThrees, "12 ", "12 "}, {{4, 4, 4, 1, 2}, CatFours, "12 ", "12 "},
+    {{5, 5, 5, 2, 3}, CatFives, "15 ", "15 "}, {{6, 6, 6, 1, 1}, CatSixes, "53 ", "18 "},   // 66: the 35
+    {{2, 2, 3, 3, 3}, CatFullHouse, "25 ", "25 "}, {{1, 2, 3, 4, 6}, CatSmallStraight, "30 ", "30 "},
+    {{2, 3, 4, 5, 6}, CatLargeStraight, "35 ", "35 "}, {{4, 4, 4, 4, 4}, CatZarvo, "50 ", "50 "},
+    {{4, 4, 4, 4, 4}, CatThreeOfAKind, "120 ", "20 "},   // a repeat Zarvo: 100 more
+    {{6, 6, 6, 6, 2}, CatFourOfAKind, "26 ", "26 "}, {{1, 1, 2, 2, 3}, CatChance, "9 ", "9 "}};
+// Left 66, Right 195, Bonus 135, Total 396, Zarvos 1 + 135 / 100.
+const char* const Totals = "66 195 135 396";
+
+template <class... L> std::string Texts(const L*... labels) { return ((" " + labels->Caption().toStdString()) + ...); }
+
+class WholeGame : public DataFileFixture {
+protected:
+    frmMain form;
+    GameDialogs dialogs{form};
+    std::vector<std::string> seen;   // each dialog, as it came
+    bool sayNo = false;
+
+    // Answers each dialog with its default button (Alt+N on the last prompt), noting what it showed.
+    void AnswerDialogs(QTimer& answerer)
+    {
+        QObject::connect(&answerer, &QTimer::timeout, [this] {
+            auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!d || !d->isActiveWindow() || d->property("answered").toBool())
+                return;
+            std::string shown = d->windowTitle().toStdString();
+            if (auto* r = dynamic_cast<frmPlayerResults*>(d))
+                shown += Texts(r->lblScored, r->lblCurrentInfo, r->lblAllHigh, r->lblAllLow, r->lblAllAvg);
+            if (auto* n = dynamic_cast<frmHighScoreNotify*>(d))
+                shown += " " + n->txtName->text().toStdString();
+            if (auto* h = dynamic_cast<frmHighScores*>(d))
+                shown += Texts(h->lblPlayerName[0], h->lblScore[0]) + (h->lblScore[0]->font().bold() ? " bold" : "");
+            if (auto* s = dynamic_cast<frmSummary*>(d))
+                shown += Texts(s->lblName[1], s->lblLeft[1], s->lblRight[1], s->lblBonus[1], s->lblTotal[1], s->lblZarvos[1],
+                               s->lblTotalLeft, s->lblTotalTotal, s->lblTotalZarvos)
+                    + " @" + std::to_string(s->lblTotals->y() * 15) + " " + std::to_string(s->height() * 15);
+            seen.push_back(shown);
+            d->setProperty("answered", true);
+            const bool no = sayNo && d->windowTitle() == " Zarvo - New Game";
+            QTest::keyClick(d->focusWidget() ? d->focusWidget() : d, no ? Qt::Key_N : Qt::Key_Return,
+                            no ? Qt::AltModifier : Qt::NoModifier);
+        });
+        answerer.start(0);
+    }
+    void Roll(DiceValues dice)
+    {
+        while (form.Logic().mRollPhase != 0)
+            form.Logic().tmrRoll_Timer();
+        form.Logic().mDice = dice;
+    }
+    // Player 1: the dice field, then the right button to accept, then the cell.
+    void TurnByMouse(const Turn& t)
+    {
+        QTest::mouseClick(form.lblDie[0], Qt::LeftButton);
+        Roll(t.dice);
+        QTest::mouseClick(form.imgDie[4], Qt::RightButton);
+        ASSERT_EQ(form.Cell(t.category)->Caption(), t.preview);
+        ASSERT_EQ(form.Cell(t.category)->BackColor(), QColor(Qt::white));
+        QTest::mouseClick(form.Cell(t.category), Qt::LeftButton);
+    }
+    // Player 2: Enter rolls and accepts; the cursor starts on Ones, Right crosses to the right
+    // column, Down walks it; Enter takes the cell.
+    void TurnByKeys(const Turn& t)
+    {
+        QTest::keyClick(&form, Qt::Key_Return);
+        Roll(t.dice);
+        QTest::keyClick(&form, Qt::Key_Return);
+        if (t.category > CatSixes)
+            QTest::keyClick(&form, Qt::Key_Right);
+        for (int c = t.category > CatSixes ? CatThreeOfAKind : CatOnes; c < t.category; ++c)
+            QTest::keyClick(&form, Qt::Key_Down);
+        QTest::keyClick(&form, Qt::Key_Return);
+    }
+    std::string ShownTotals() const { return Texts(form.lblLeftTotal, form.lblRightTotal, form.lblBonusTotal, form.lblTotal).substr(1); }
+};
+
+TEST_F(WholeGame, TwoPlayersByMouseAndKeysThenAgainUntilNo)
+{
+    MakeFreshFile();
+    Sql("INSERT INTO Setup VALUES (-1, 0, -1, -1);"
+        "INSERT INTO PlayersInUse VALUES (1, '< Player 1 >'), (2, '< Player 2 >');");
+    SetMsgBoxHandler([](const std::string&, int, const std::string&) { return int(vbYes); });   // Accept; the offer
+    form.SetDialogs(&dialogs);
+    form.Form_Load();
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    QTimer answerer;
+    AnswerDialogs(answerer);
+    for (const Turn& t : Card) {
+        SCOPED_TRACE(t.category);
+        TurnByMouse(t);
+        if (t.category == CatOnes)
+            QTest::keyClick(&form, Qt::Key_Down);   // the first arrow: the offer, answered Yes
+        TurnByKeys(t);
+        if (t.category != CatChance) {
+            ASSERT_EQ(form.Cell(t.category)->Caption(), t.cell) << "player 1's card is back";
+        }
+    }
+    const std::string results = "Zarvo - Results Player 1 Scored: 396 Congratulations, an all-time high! 396 396 396";
+    const std::string summary = "Zarvo - Scoring Summary Player 2  66  195  135  396  2  132  792  4 @1260 2145";
+    EXPECT_EQ(seen, (std::vector<std::string>{results, "Zarvo - High Score Player 1",
+        "Zarvo - High Scores Player 1 396 bold",
+        "Zarvo - Results Player 2 Scored: 396 Congratulations, a new session high! 396 396 396",
+        "Zarvo - High Score Player 2", "Zarvo - High Scores Player 1 396 bold", summary, " Zarvo - New Game"}));
+    EXPECT_EQ(form.lblPleaseRoll->Caption(), "Player 1's turn. Please roll.") << "Yes: the next game";
+
+    // The next game from its last round; no score reaches the top ten now. The session goes on,
+    // so only the averages are left to tell.
+    Sql("UPDATE HighScores SET Score = 1500");
+    seen.clear();
+    sayNo = true;
+    for (int p = 1; p <= 2; ++p) {
+        for (const Turn& t : Card)
+            gScores[p][t.category] = t.category == CatChance ? EmptyCell : std::stoi(t.cell);
+        gScores[p][BonusCell] = 135;
+    }
+    TurnByMouse(Card[12]);
+    EXPECT_EQ(ShownTotals(), "66 186 135 387") << "player 2's card before its last turn";
+    TurnByMouse(Card[12]);
+    EXPECT_EQ(ShownTotals(), Totals);
+    EXPECT_EQ(seen, (std::vector<std::string>{
+        "Zarvo - Results Player 1 Scored: 396 Your overall average didn't change... 396 396 396",
+        "Zarvo - Results Player 2 Scored: 396 Your overall average didn't change... 396 396 396", summary,
+        " Zarvo - New Game"}));
+    EXPECT_TRUE(form.isHidden()) << "No ends the program";
+    EXPECT_EQ(Sql("SELECT * FROM Setup; SELECT PlayerName FROM PlayersInUse; SELECT GamesPlayed FROM Player"),
+              "-1|-1|-1|-1;< Player 1 >;< Player 2 >;4");
+}
+}

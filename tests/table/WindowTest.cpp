@@ -1,0 +1,215 @@
+// The game table window itself: its furniture in twips, its fonts and cell looks, and how
+// clicks, keys, menu commands and the timer reach the game; start-up and exit.
+#include <QFontInfo>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <sqlite3.h>
+
+#include "../common/ModalAnswer.h"
+#include "FreshDataFile.h"
+#include "Look.h"
+#include "QtServices.h"
+#include "Twips.h"
+#include "WindowFixture.h"
+
+namespace {
+QRect Twips(const QWidget* w)
+{
+    return {PixelsToTwips(w->x()), PixelsToTwips(w->y()), PixelsToTwips(w->width()), PixelsToTwips(w->height())};
+}
+}
+
+using Window = WindowTest;
+
+// A sample of controls at their rectangles; the size is fixed, with no maximize box; on the
+// pile die 2 lies on top showing a six.
+TEST_F(Window, FurnitureInTwips)
+{
+    const std::pair<QWidget*, QRect> places[] = {
+        {form->picDisplayer, {150, 120, 4275, 1755}}, {form->fraScoreboard, {120, 1920, 4335, 2055}},
+        {form->cmdRoll, {3120, 4080, 1335, 375}}, {form->lblPleaseRoll, {240, 360, 3735, 255}},
+        {form->lblSelectCategory, {240, 1320, 3735, 255}}, {form->lblDie[3], {2520, 0, 855, 1695}},
+        {form->lblRoll[1], {1080, 540, 375, 255}}, {form->lblKeep[4], {3600, 960, 375, 255}},
+        {form->imgDie[0], {1800, 960, 615, 615}}, {form->lblCategoryNames[2], {105, 750, 615, 255}},
+        {form->lblCategoryNames[11], {1320, 1470, 1335, 255}}, {form->lblLeft[3], {720, 750, 375, 255}},
+        {form->lblRight[7], {2520, 1710, 375, 255}}, {form->lblTotal, {3720, 1470, 375, 255}}};
+    for (const auto& [widget, rect] : places)
+        EXPECT_EQ(Twips(widget), rect) << &widget - &places[0].first;
+    EXPECT_EQ(form->centralWidget()->size(), QSize(4575 / 15, 4560 / 15));
+    EXPECT_FALSE(form->windowFlags() & Qt::WindowMaximizeButtonHint);
+    EXPECT_EQ(form->minimumSize(), form->maximumSize());
+    EXPECT_EQ(form->imgDie[2]->Picture().toImage(), form->ilsDie[6].toImage());
+    EXPECT_EQ(form->imgDie[2]->parentWidget()->childAt(form->imgDie[2]->geometry().center()), form->imgDie[2]);
+}
+
+// The chosen font is really there, and no caption is clipped in its width: the row captions,
+// the prompts with the longest name, the largest total and a boxed three-digit cell.
+TEST_F(Window, NoCaptionIsClipped)
+{
+    EXPECT_EQ(QFontInfo(form->lblCategoryNames[0]->font()).family(), Look::FontFamily);
+    auto fits = [](const Label* label, const QString& text) {
+        return QFontMetrics(label->font()).horizontalAdvance(text) <= label->width() - 2 * label->BorderStyle();
+    };
+    std::vector<Label*> fixed(form->lblCategoryNames.begin(), form->lblCategoryNames.end());
+    for (Label* l : {form->lblLeftLbl, form->lblRightLbl, form->lblBonusLbl, form->lblTotalLbl, form->lblSelectCategory,
+                     form->lblKeep[0], form->lblRoll[0]})
+        fixed.push_back(l);
+    for (Label* label : fixed)
+        EXPECT_TRUE(fits(label, label->Caption())) << label->Caption().toStdString();
+    EXPECT_TRUE(fits(form->lblPleaseRoll, "WWWWWWWWWWWW's turn. Please roll."));
+    EXPECT_TRUE(fits(form->lblTotal, "1270"));
+    form->lblRight[6]->SetBorderStyle(1);
+    EXPECT_TRUE(fits(form->lblRight[6], "150 "));
+    EXPECT_LE(QFontMetrics(form->fraScoreboard->font()).horizontalAdvance("WWWWWWWWWWWW's Scoreboard"),
+              form->fraScoreboard->width() - 16);
+    EXPECT_LE(QFontMetrics(form->cmdRoll->font()).horizontalAdvance("Accept"), form->cmdRoll->width() - 8);
+}
+
+// A boxed cell stands 30 twips higher, opaque and bordered; the cursor lays dark grey with white
+// text over it; unboxed, it is flat again.
+TEST_F(Window, LooksOfACell)
+{
+    Label* cell = form->Cell(CatThrees);
+    logic().MarkCategory(CatThrees, true);
+    logic().mKeyCursor = CatThrees;
+    logic().ShowCategoryCursor();
+    EXPECT_EQ(std::tuple(Twips(cell).top(), cell->BorderStyle(), cell->BackStyle(), cell->BackColor(), cell->ForeColor()),
+              std::tuple(720, 1, 1, QColor(128, 128, 128), QColor(Qt::white)));
+    logic().UnmarkCategory(CatThrees);
+    EXPECT_EQ(std::tuple(Twips(cell).top(), cell->BorderStyle(), cell->BackStyle()), std::tuple(750, 0, 0));
+}
+
+// A click anywhere in the field rolls while the player is asked to; between rolls a click in a
+// die's column moves it and turns the caption; the right button rolls, or asks on "Accept".
+TEST_F(Window, MouseOnTheDiceField)
+{
+    ClickField(ColumnPoint(4));
+    EXPECT_EQ(FinishRoll(), 45);
+    ClickField(ColumnPoint(1));
+    EXPECT_EQ(std::pair(form->DieTop(1), form->cmdRoll->text()), std::pair(RollRow, QString("Roll")));
+    Click(form->imgDie[1]);   // on the die itself, now in RollRow
+    EXPECT_EQ(std::pair(form->DieTop(1), form->cmdRoll->text()), std::pair(KeepRow, QString("Accept")));
+    answers = {vbNo};
+    Click(form->imgDie[3], Qt::RightButton);
+    EXPECT_EQ(asked.size(), 1u);
+    ClickField(ColumnPoint(3));
+    Click(form->imgDie[0], Qt::RightButton);
+    EXPECT_EQ(std::pair(form->DieTop(0), logic().mRollPhase), std::pair(KeepRow, 1)) << "rolls, moves nothing";
+}
+
+// Enter rolls whichever control has the focus, and a focused button does not click a second
+// time: on "Accept" exactly one question comes. Other keys reach the controls.
+TEST_F(Window, EnterReachesTheGameFirst)
+{
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    form->cmdRoll->setFocus();
+    QTest::keyClick(form->cmdRoll, Qt::Key_Return);
+    EXPECT_EQ(FinishRoll(), 45);
+    answers = {vbNo};
+    QTest::keyClick(form->cmdRoll, Qt::Key_Return);
+    EXPECT_EQ(asked.size(), 1u);
+    answers = {vbNo};
+    QTest::keyClick(form->cmdRoll, Qt::Key_Space);
+    EXPECT_EQ(asked.size(), 2u) << "Space clicks the button, which asks";
+}
+
+// A roll that ends behind the keyboard offer leaves the offer in front: a real Return, sent to
+// whatever window has the focus, answers the box with its default Yes.
+TEST_F(Window, RollEndingBehindTheOfferLeavesItTheKeys)
+{
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    SetMsgBoxHandler(QtMsgBox);
+    QTest::keyClick(form.get(), Qt::Key_Return);
+    bool answered = false;
+    AnswerNextModal([&](QWidget* box) {
+        FinishRoll();
+        QCoreApplication::processEvents();   // the window system's answer to the roll's end
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        answered = box->isHidden();
+        box->close();
+    });
+    QTest::keyClick(form.get(), Qt::Key_Down);   // the first arrow of the run brings the offer
+    EXPECT_TRUE(answered);
+    EXPECT_TRUE(form->mnuUseKeyboard->isChecked());
+}
+
+// A shortcut turns its option's mark exactly once; F3 in the middle of a roll stops it for good.
+TEST_F(Window, ShortcutsAndNewGameDuringARoll)
+{
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    for (Qt::Key key : {Qt::Key_P, Qt::Key_K, Qt::Key_A})
+        QTest::keyClick(form.get(), key, Qt::ControlModifier);
+    EXPECT_EQ(std::tuple(form->mnuScoringPreview->isChecked(), form->mnuUseKeyboard->isChecked(),
+                         form->mnuAnimation->isChecked()), std::tuple(true, true, false));
+    form->mnuAnimation->trigger();
+    Click(form->cmdRoll);
+    for (int tick = 0; tick < 25; ++tick)
+        logic().tmrRoll_Timer();   // into the spread
+    QTest::keyClick(form.get(), Qt::Key_F3);
+    logic().tmrRoll_Timer();
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(QPoint(form->DieLeft(i), form->DieTop(i)), QPoint(1800, RollRow));
+    EXPECT_EQ(std::tuple(logic().mRollPhase, logic().mRollsDone, form->lblPleaseRoll->isHidden()), std::tuple(0, 0, false));
+}
+
+// The real timer drives a roll started by cmdRoll and sleeps again when the dice rest; here it
+// runs with no delay between ticks, so nothing waits.
+TEST_F(Window, TheTimerRunsOnlyDuringARoll)
+{
+    EXPECT_FALSE(form->tmrRoll->isActive());
+    form->tmrRoll->setInterval(0);
+    Click(form->cmdRoll);
+    EXPECT_TRUE(form->tmrRoll->isActive());
+    for (int events = 0; events < 10000 && form->tmrRoll->isActive(); ++events)
+        QCoreApplication::processEvents();
+    EXPECT_FALSE(form->tmrRoll->isActive());
+    EXPECT_EQ(form->cmdRoll->text(), "Accept");
+}
+
+// With a data file, three remembered players and the saved marks come back (the marks set
+// without running their commands) and the exit rewrites the rows; without one, the defaults
+// play and no file is made.
+TEST(Startup, WithAndWithoutADataFile)
+{
+    QTemporaryDir dir;
+    SetAppPath(dir.path().toStdString());
+    const std::string file = dir.filePath("Zarvo.dat").toStdString();
+    std::string error, rows;
+    ASSERT_TRUE(WriteFreshDataFile(ZARVO_SCHEMA_FILE, file, error)) << error;
+    sqlite3* db = nullptr;
+    sqlite3_open(file.c_str(), &db);
+    sqlite3_exec(db, "INSERT INTO Setup VALUES (-1, -1, 0, 0); INSERT INTO PlayersInUse VALUES (1, 'Anna'),"
+                     " (2, '< Player 2 >'), (3, 'Bo');", nullptr, nullptr, nullptr);
+    {
+        frmMain form;
+        form.Form_Load();
+        EXPECT_EQ(form.lblPleaseRoll->Caption(), "Anna's turn. Please roll.");
+        EXPECT_EQ(std::tuple(form.mnuScoringSummary->isEnabled(), form.mnuRememberPlayers->isChecked(),
+                             form.mnuUseKeyboard->isChecked(), form.mnuScoringPreview->isChecked(),
+                             form.mnuAnimation->isChecked()), std::tuple(true, true, true, false, false));
+        form.mnuScoringPreview->trigger();
+        form.close();
+    }
+    sqlite3_exec(db, "SELECT * FROM Setup; SELECT PlayerNumber, PlayerName FROM PlayersInUse ORDER BY rowid",
+                 [](void* out, int n, char** values, char**) {
+                     for (int i = 0; i < n; ++i)
+                         *static_cast<std::string*>(out) += std::string(values[i]) + (i + 1 < n ? "|" : ";");
+                     return 0;
+                 }, &rows, nullptr);
+    sqlite3_close(db);
+    EXPECT_EQ(rows, "-1|-1|-1|0;1|Anna;2|< Player 2 >;3|Bo;");
+
+    QFile::remove(QString::fromStdString(file));
+    {
+        frmMain form;
+        form.Form_Load();
+        EXPECT_EQ(form.lblPleaseRoll->Caption(), "Player 1's turn. Please roll.");
+        EXPECT_EQ(std::tuple(form.mnuScoringSummary->isEnabled(), form.mnuRememberPlayers->isChecked(),
+                             form.mnuAnimation->isChecked()), std::tuple(false, false, true));
+        form.close();
+    }
+    EXPECT_FALSE(QFile::exists(QString::fromStdString(file)));
+}
