@@ -16,21 +16,14 @@
 #include "modCommon.h"
 #include "modGlobalVars.h"
 
-struct AskedMessage {
-    std::string text;
-    int style;
-    std::string title;
-};
-
 class WindowTest : public testing::Test {
 protected:
     void SetUp() override
     {
         SetAppPath(dir.path().toStdString());
-        previous = SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
-            asked.push_back({text, style, title});
-            if (answers.empty())
-                ADD_FAILURE() << "unexpected message: " << text;
+        previous = SetMsgBoxHandler([this](const std::string& text, int, const std::string&) {
+            asked.push_back(text);
+            EXPECT_FALSE(answers.empty()) << "unexpected message: " << text;
             const int answer = answers.empty() ? vbNo : answers.front();
             if (!answers.empty())
                 answers.pop_front();
@@ -54,10 +47,8 @@ protected:
     int FinishRoll()
     {
         int ticks = 0;
-        while (logic().mRollPhase != 0 && ticks < 1000) {
+        for (; logic().mRollPhase != 0 && ticks < 1000; ++ticks)
             logic().tmrRoll_Timer();
-            ++ticks;
-        }
         return ticks;
     }
 
@@ -80,6 +71,6 @@ protected:
     QTemporaryDir dir;
     std::unique_ptr<frmMain> form;
     std::deque<int> answers;
-    std::vector<AskedMessage> asked;
+    std::vector<std::string> asked;   // the texts of the message boxes shown
     MsgBoxHandler previous;
 };
