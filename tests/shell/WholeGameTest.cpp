@@ -1,7 +1,10 @@
 // Whole games on the real window with the real dialogs: two players to the end, the first by
 // mouse and the second by keys, then a second game ended with No. The dice of each turn are set
 // by the test after the roll; the expected cells, totals and dialog texts are worked out by hand.
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
@@ -43,6 +46,15 @@ protected:
             if (!d || !d->isActiveWindow() || d->property("answered").toBool())
                 return;
             std::string shown = d->windowTitle().toStdString();
+            // A screen reader can name every control it meets in the dialog: a label or button by
+            // its caption, a box by the name it was given (its text says nothing of what it is).
+            for (QWidget* w : d->findChildren<QWidget*>()) {
+                auto* label = dynamic_cast<Label*>(w);
+                const bool box = qobject_cast<QComboBox*>(w) || (qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w->parent()));
+                if (w->isHidden() || !(box || qobject_cast<QAbstractButton*>(w) || (label && !label->Caption().isEmpty())))
+                    continue;
+                EXPECT_NE(box ? w->accessibleName() : QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name), "") << shown;
+            }
             if (auto* r = dynamic_cast<frmPlayerResults*>(d))
                 shown += Texts(r->lblScored, r->lblCurrentInfo, r->lblAllHigh, r->lblAllLow, r->lblAllAvg);
             if (auto* n = dynamic_cast<frmHighScoreNotify*>(d))
@@ -105,6 +117,9 @@ TEST_F(WholeGame, TwoPlayersByMouseAndKeysThenAgainUntilNo)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     QTimer answerer;
     AnswerDialogs(answerer);
+    form.mnuNewPlayers->trigger();   // Play, the default, seats the same two players again
+    ASSERT_EQ(seen, std::vector<std::string>{" Zarvo - Change Players"});
+    seen.clear();
     for (const Turn& t : Card) {
         SCOPED_TRACE(t.category);
         TurnByMouse(t);
