@@ -436,13 +436,12 @@ void frmMain::SetDiePicture(int i, ImageList list, int face)
 void frmMain::NameDie(int i)
 {
     static const char* const faces[] = {"", "one", "two", "three", "four", "five", "six"};
-    const char* place = DieLeft(i) != DieColumnLeft(i) ? "on the pile"
-                        : DieTop(i) == KeepRow         ? "kept"
-                        : DieTop(i) == RollRow         ? "to roll"
-                                                       : "rolling";
-    imgDie[i]->setAccessibleName(QString("Die %1: %2, %3%4")
-                                     .arg(i + 1)
-                                     .arg(faces[dieFace_[i]], place, dieCursor_[i] ? ", under the cursor" : ""));
+    QString name = QString("Die %1: ").arg(i + 1);
+    if (DieLeft(i) != DieColumnLeft(i))
+        name += "on the pile";   // under die 3: no face to be seen
+    else
+        name += QString(faces[dieFace_[i]]) + (DieTop(i) == KeepRow ? ", kept" : DieTop(i) == RollRow ? ", to roll" : ", rolling");
+    imgDie[i]->setAccessibleName(name + (dieCursor_[i] ? ", under the cursor" : ""));
 }
 
 void frmMain::RefreshDie(int i) { imgDie[i]->repaint(); }

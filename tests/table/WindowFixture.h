@@ -16,13 +16,19 @@
 #include "modCommon.h"
 #include "modGlobalVars.h"
 
+struct AskedMessage {
+    std::string text;
+    int style;
+    std::string title;
+};
+
 class WindowTest : public testing::Test {
 protected:
     void SetUp() override
     {
         SetAppPath(dir.path().toStdString());
-        previous = SetMsgBoxHandler([this](const std::string& text, int, const std::string&) {
-            asked.push_back(text);
+        previous = SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
+            asked.push_back({text, style, title});
             EXPECT_FALSE(answers.empty()) << "unexpected message: " << text;
             const int answer = answers.empty() ? vbNo : answers.front();
             if (!answers.empty())
@@ -71,6 +77,6 @@ protected:
     QTemporaryDir dir;
     std::unique_ptr<frmMain> form;
     std::deque<int> answers;
-    std::vector<std::string> asked;   // the texts of the message boxes shown
+    std::vector<AskedMessage> asked;   // the message boxes shown
     MsgBoxHandler previous;
 };
