@@ -26,7 +26,8 @@ TEST_F(FlowTest, EndOfCardAndGame)
     }
 }
 
-// The turn passes to player 2; New Game in any roll phase or in the choice stops it for good and asks player 1.
+// The turn passes to player 2. New Game in any roll phase or in the choice ends it for good, leaves no box, and
+// asks player 1 to roll with the dice on the pile.
 TEST_F(FlowTest, NewGameCutsIn)
 {
     for (int phase = 0; phase <= 4; ++phase) {   // phase 0: in the choice

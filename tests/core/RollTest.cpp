@@ -6,7 +6,7 @@
 using RollTest = TableTest;
 
 // First roll 20 tumble + 7 spread + 18 settle ticks, later ones 7 gather + 27 + 3 (k + 1), drawing on even tumble
-// ticks; switched off before the spread, the next tick draws once more and lands the dice. Any face 1..6 comes up.
+// ticks; switched off before the spread, the next tick draws once more and lands the dice. Each face 1..6 comes up.
 TEST_F(RollTest, TicksDrawsAndLanding)
 {
     const struct { std::vector<int> marked; int offAfter, ticks, drawn; } cases[] = {   // no marks: a first roll

@@ -111,8 +111,8 @@ protected:
         screen.checked[Option::AnimateRolling] = true;
         table.StartNewGame();
     }
-    // cmdRoll's caption, '+' for cmdRoll, picDisplayer enabled, lblPleaseRoll, die labels, lblSelectCategory shown
-    // and the rolls done.
+    // cmdRoll's caption; '+' or '-' for cmdRoll and picDisplayer enabled, then lblPleaseRoll, the die labels and
+    // lblSelectCategory shown; the rolls done.
     std::string Turn() const
     {
         std::string look = screen.Caption(Control::cmdRoll) + " ";
