@@ -46,7 +46,8 @@ TEST_F(InputTest, TurnByMouse)
     EXPECT_EQ(gScores[1][CatFullHouse], 0);
 }
 
-// A turn by keys. Only game keys are used up; the first arrow offers the mode, once even after No. The die cursor
+// A turn by keys. Only game keys are used up; the first arrow offers the mode, also after the menu switched it on
+// and off, and once even after No. The die cursor
 // shows when the dice rest and wraps; after the third roll the cell cursor starts on Ones and moves as the cursor
 // table says, the preview renumbers the boxes both ways, and Enter takes the boxed cell under it; mode off, nothing.
 TEST_F(InputTest, TurnByKeys)
@@ -56,6 +57,8 @@ TEST_F(InputTest, TurnByKeys)
     table.RefreshScoreboard();
     for (int key : {0, 8, 9, 27, 32, 36, 41, 46, 65, 112})
         EXPECT_EQ(table.Form_KeyDown(key), key);
+    table.mnuUseKeyboard_Click();
+    table.mnuUseKeyboard_Click();   // on and off by the menu: that makes no offer
     answers = {vbNo};
     Keys({vbKeyDown, vbKeyLeft});
     EXPECT_EQ(calls, std::vector{Box("Do you want to enable keyboard use?", vbYesNo | vbQuestion,
