@@ -84,6 +84,7 @@ const FileCase Cases[] = {
     {"Locked", Rows, [](F& f) { f.Lock(); }},
 };
 
+// Load, save, load: a write into a file that cannot take it could cost every record the file holds.
 TEST_P(SavedSetupTest, GameGoesOnAndOnlyAUsableFileIsWritten)
 {
     const FileCase& c = GetParam();
