@@ -1,14 +1,11 @@
 #pragma once
-// Per test: its own program directory, a recording message box, and its own look at the file.
+// Per test: its own program directory for the data file, and a message box that records what it was asked.
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 #include <sys/fsuid.h>
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <thread>
 
 #include "AppPath.h"
 #include "FreshDataFile.h"
@@ -20,25 +17,6 @@
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 using Message = std::tuple<std::string, int, std::string>;  // text, style, title
-
-using Loaded = std::tuple<bool, bool, bool, bool, Names>;  // the four marks and the seats
-
-inline Loaded Expect(const SetupMarks& m, const Names& players)
-{
-    return {m.RememberPlayers, m.UseKeyboard, m.ShowScoringPreview, m.AnimateRolling, players};
-}
-
-// What LoadSetup gives, over seats left from before.
-inline Loaded LoadedSetup()
-{
-    gPlayerNames.ReDim(2, "left over");
-    SetupMarks marks;
-    LoadSetup(marks);
-    Names names;
-    for (int n = 1; n <= gPlayerNames.UBound(); ++n)
-        names.push_back(gPlayerNames[n]);
-    return Expect(marks, names);
-}
 
 // SaveSetup with these players in the seats.
 inline void SaveSetupWith(const SetupMarks& marks, const Names& names)
@@ -56,27 +34,16 @@ public:
         char pattern[] = "/tmp/zarvo-store-XXXXXX";
         ASSERT_NE(mkdtemp(pattern), nullptr);
         SetAppPath(directory = pattern);
-        SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
-            messages.emplace_back(text, style, title);
-            return int(vbOK);
-        });
+        SetMsgBoxHandler([this](const auto&... asked) { return messages.emplace_back(asked...), int(vbOK); });
     }
     void TearDown() override
     {
-        CloseDataFile();
-        releaser_ = {};  // joins the thread that ends the lock
-        sqlite3_close(locker_);
-        setfsuid(getuid());
-        SetMsgBoxHandler({});
-        fs::remove_all(directory);
+        CloseDataFile(), SetMsgBoxHandler({});
+        setfsuid(getuid()), fs::remove_all(directory);
     }
 
     std::string DataPath() const { return AppFile("Zarvo.dat"); }
-    void MakeFreshFile() const
-    {
-        std::string error;
-        ASSERT_TRUE(WriteFreshDataFile(ZARVO_SCHEMA_FILE, DataPath(), error)) << error;
-    }
+    void MakeFreshFile() { std::string e; ASSERT_TRUE(WriteFreshDataFile(ZARVO_SCHEMA_FILE, DataPath(), e)) << e; }
     // Runs statements on a connection of its own; the rows selected as "a|b;c|d", NULL as "NULL".
     std::string Sql(const std::string& statements) const
     {
@@ -94,24 +61,6 @@ public:
         sqlite3_close(connection);
         return rows;
     }
-    std::string Bytes() const
-    {
-        std::ostringstream content;
-        content << std::ifstream(DataPath(), std::ios::binary).rdbuf();
-        return content.str();
-    }
-    void WriteBytes(const std::string& bytes) const { std::ofstream(DataPath(), std::ios::binary) << bytes; }
-    // Another program holds the file exclusively, until the test ends or for `pause` if given.
-    void Lock(std::chrono::milliseconds pause = {})
-    {
-        ASSERT_EQ(sqlite3_open_v2(DataPath().c_str(), &locker_, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-        ASSERT_EQ(sqlite3_exec(locker_, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-        if (pause.count())
-            releaser_ = std::jthread([this, pause] {
-                std::this_thread::sleep_for(pause);
-                sqlite3_exec(locker_, "COMMIT", nullptr, nullptr, nullptr);
-            });
-    }
     // Root passes every file mode, so root tests them as another user, who loses its overrides.
     void Chmod(mode_t mode)
     {
@@ -123,8 +72,4 @@ public:
 
     std::string directory;
     std::vector<Message> messages;
-
-private:
-    sqlite3* locker_ = nullptr;
-    std::jthread releaser_;
 };

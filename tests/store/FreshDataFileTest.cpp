@@ -1,34 +1,24 @@
 // The tool that writes a fresh data file for the build and the install.
 #include <cstdlib>
+#include <fstream>
 
 #include "DataFileFixture.h"
 
-namespace {
 using FreshDataFileTest = DataFileFixture;
 
-int RunTool(const std::string& schema, const std::string& target)
-{
-    return std::system((std::string(ZARVO_MAKEDAT) + " '" + schema + "' '" + target + "' 2>/dev/null").c_str());
-}
-
+// Whole files only, and only where none is: a schema that fails, or is missing, leaves nothing behind; a file
+// that is no database still holds someone's data, as far as the tool can know.
 TEST_F(FreshDataFileTest, WritesWholeFilesOnlyWhereNoneIs)
 {
-    // A schema that fails, or is missing, leaves no half-made file behind.
+    const auto run = [this](const std::string& schema) {
+        return std::system((std::string(ZARVO_MAKEDAT) + " '" + schema + "' '" + DataPath() + "' 2>/dev/null").c_str());
+    };
     std::ofstream(directory + "/broken.sql") << "CREATE TABLE Setup (RememberPlayers);\nTHIS IS NOT SQL;\n";
-    EXPECT_NE(RunTool(directory + "/broken.sql", DataPath()), 0);
-    EXPECT_NE(RunTool(directory + "/missing.sql", DataPath()), 0);
+    EXPECT_TRUE(run(directory + "/broken.sql") && run(directory + "/missing.sql")) << "both must fail";
     EXPECT_EQ(std::distance(fs::directory_iterator(directory), {}), 1) << "only the broken schema is left";
-
-    ASSERT_EQ(RunTool(ZARVO_SCHEMA_FILE, DataPath()), 0);
-    EXPECT_EQ(Sql("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"),
-              "HighScores;Player;PlayersInUse;Setup");
-    EXPECT_EQ(Sql("SELECT * FROM Player"), "< Player >|0|9999|0.0|0");
-    EXPECT_EQ(Sql("SELECT count(*) FROM HighScores WHERE Date < datetime('now')"), "10");
-    EXPECT_EQ(Sql("SELECT count(*) FROM Setup UNION ALL SELECT count(*) FROM PlayersInUse"), "0;0");
-
-    // Even a file that is no database holds someone's data, as far as the tool can know.
-    WriteBytes("not a database, but somebody's");
-    EXPECT_EQ(RunTool(ZARVO_SCHEMA_FILE, DataPath()), 0);
-    EXPECT_EQ(Bytes(), "not a database, but somebody's");
-}
+    ASSERT_EQ(run(ZARVO_SCHEMA_FILE), 0);
+    EXPECT_TRUE(OpenDataFile(false)) << "the game's four tables, whole";
+    fs::remove(DataPath()), std::ofstream(DataPath()) << "somebody's";
+    EXPECT_EQ(run(ZARVO_SCHEMA_FILE), 0);
+    EXPECT_EQ(fs::file_size(DataPath()), 10u);
 }

@@ -1,62 +1,113 @@
-// The options and players that survive from one run to the next.
+// The options and players kept from one run to the next, whatever file lies beside the program: a usable
+// file gives them back and takes the new ones; any other costs no game, is told once, and keeps every byte.
+#include <fstream>
+#include <sstream>
+#include <thread>
+
 #include "DataFileFixture.h"
 
 namespace {
-const Names FirstSeat{"< Player 1 >"};
+using Setup = std::tuple<bool, bool, bool, bool, Names>;  // the four marks and the seats
+const Names First{"< Player 1 >"};
+const Setup Defaults{false, false, false, true, First}, Remembered{true, true, true, false, {"Ann"}};
+const Setup Saved{true, false, true, false, {"Amy", "< Player 2 >", "Cy", "D", "E", "F", "G", "< Player 8 >"}};
+const std::string Rows = "INSERT INTO Setup VALUES (-1, -1, -1, 0); INSERT INTO PlayersInUse VALUES (1, 'Ann');";
 
-struct SetupCase {
+// What LoadSetup gives, over seats left from before.
+Setup Loaded()
+{
+    SetupMarks m;
+    gPlayerNames.ReDim(2, "left over"), LoadSetup(m);
+    return {m.RememberPlayers, m.UseKeyboard, m.ShowScoringPreview, m.AnimateRolling,
+            Names(&gPlayerNames[1], &gPlayerNames[1] + gPlayerNames.UBound())};
+}
+
+using F = class SavedSetupTest;
+struct FileCase {
     const char* name;
-    const char* rows;  // run on a fresh file; when null, `marks` and `players` are saved instead
-    SetupMarks marks;  // what LoadSetup gives
-    Names players;
+    std::string rows;                         // run on a fresh file
+    void (*damage)(F&) = nullptr;             // then done to it
+    bool opens = false, saves = false;        // OpenDataFile(true) succeeds silently; SaveSetup stores
+    Setup loads = Defaults;
 };
-void PrintTo(const SetupCase& value, std::ostream* out) { *out << value.name; }
+void PrintTo(const FileCase& c, std::ostream* out) { *out << c.name; }
 
-const SetupCase SetupCases[] = {
-    {"FreshFile", "", {}, FirstSeat},
-    {"PlayersWithoutSetupAreNotRead", "INSERT INTO PlayersInUse VALUES (1, 'Ann');", {}, FirstSeat},
-    {"RememberedButNoPlayers", "INSERT INTO Setup VALUES (-1, 0, 0, 0);", {true, false, false, false}, FirstSeat},
+class SavedSetupTest : public DataFileFixture, public ::testing::WithParamInterface<FileCase> {
+public:
+    std::string Bytes() const { std::ostringstream s; s << std::ifstream(DataPath()).rdbuf(); return s.str(); }
+    void WriteBytes(const std::string& bytes) const { std::ofstream(DataPath()) << bytes; }
+    // Another program holds the file exclusively, until the test ends or for `pause` milliseconds.
+    void Lock(int pause = 0)
+    {
+        ASSERT_EQ(sqlite3_open_v2(DataPath().c_str(), &locker, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(locker, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+        if (pause)
+            releaser = std::jthread([this, pause] {
+                std::this_thread::sleep_for(std::chrono::milliseconds(pause));
+                sqlite3_exec(locker, "COMMIT", nullptr, nullptr, nullptr);
+            });
+    }
+    ~SavedSetupTest() override { releaser = {}, sqlite3_close(locker); }
+
+    sqlite3* locker = nullptr;
+    std::jthread releaser;
+};
+
+const FileCase Cases[] = {
+    {"PlayersWithoutSetupAreNotRead", "INSERT INTO PlayersInUse VALUES (1, 'Ann');", nullptr, true, true},
+    {"RememberedButNoPlayers", "INSERT INTO Setup VALUES (-1, 0, 0, 0);", nullptr, true, true,
+     {true, false, false, false, First}},
     // An unordered read would follow the index by name; only the first eight named seats count.
     {"FirstEightNamedSeatsInTheOrderWritten",
      "DROP TABLE PlayersInUse; CREATE TABLE PlayersInUse (PlayerNumber, PlayerName, Note);"
-     "CREATE INDEX ByName ON PlayersInUse (PlayerName, PlayerNumber);"
-     "INSERT INTO Setup VALUES (-1, 0, 0, -1); INSERT INTO PlayersInUse VALUES (1, 'Zoe', ''),"
-     " (2, '< Player 2 >', ''), (3, 'Ann', ''), (4, NULL, ''), (5, '', ''), (6, 'F', ''),"
-     " (7, 'G', ''), (8, 'H', ''), (9, 'I', ''), (10, 'J', ''), (11, 'K', '');",
-     {true, false, false, true}, {"Zoe", "< Player 2 >", "Ann", "F", "G", "H", "I", "J"}},
-    {"SavedPlaceholderBetweenNames", nullptr, {true, false, false, false}, {"Ann", "< Player 2 >", "Cy"}},
-    {"SavedEightPlayers", nullptr, {true, true, true, true}, {"A", "B", "C", "D", "E", "F", "G", "< Player 8 >"}},
+     "CREATE INDEX ByName ON PlayersInUse (PlayerName, PlayerNumber); INSERT INTO Setup VALUES (-1, 0, 0, -1);"
+     "INSERT INTO PlayersInUse VALUES (1, 'Zoe', ''), (2, '< Player 2 >', ''), (3, 'Ann', ''), (4, NULL, ''),"
+     " (5, '', ''), (6, 'F', ''), (7, 'G', ''), (8, 'H', ''), (9, 'I', ''), (10, 'J', ''), (11, 'K', '');",
+     nullptr, true, true, {true, false, false, true, {"Zoe", "< Player 2 >", "Ann", "F", "G", "H", "I", "J"}}},
+    // An option edited by hand: empty is no, and a number beyond 16 bits is still yes.
+    {"HandEditedOptions", Rows + "UPDATE Setup SET RememberPlayers = 65536, UseKeyboard = NULL, AnimateRolling = NULL",
+     nullptr, true, true, {true, false, true, false, {"Ann"}}},
+    // Only the work that needs a missing column fails; a save that fails after emptying the tables keeps the rows
+    // of the last exit, as empty tables would read as the defaults.
+    {"ColumnMissing", Rows + "ALTER TABLE Setup DROP COLUMN AnimateRolling;", nullptr, true},
+    // Another game's short piece of work must not cost this one its saved setup.
+    {"LockedForAMoment", Rows, [](F& f) { f.Lock(200); }, true, true, Remembered},
+    {"ReadOnly", Rows, [](F& f) { f.Chmod(0444); }, true, false, Remembered},
+    {"NoFile", Rows, [](F& f) { fs::remove(f.DataPath()); }},
+    {"ZeroLength", Rows, [](F& f) { f.WriteBytes(""); }},
+    {"NotADatabase", Rows, [](F& f) { f.WriteBytes(std::string(8192, 'Z')); }},
+    {"Truncated", Rows, [](F& f) { f.WriteBytes(f.Bytes().substr(0, 8192)); }},
+    {"PageOverwritten", Rows, [](F& f) { f.WriteBytes(f.Bytes().replace(3 * 4096 + 8, 512, 512, 'Z')); }},
+    {"TableMissing", Rows, [](F& f) { f.Sql("DROP TABLE HighScores"); }},
+    {"Directory", Rows, [](F& f) { fs::remove(f.DataPath()), fs::create_directory(f.DataPath()); }},
+    {"Unreadable", Rows, [](F& f) { f.Chmod(0); }},
+    {"Locked", Rows, [](F& f) { f.Lock(); }},
 };
 
-class SetupTest : public DataFileFixture, public ::testing::WithParamInterface<SetupCase> {};
-
-TEST_P(SetupTest, LoadGivesTheStoredMarksAndPlayers)
+// Load, save, load: a write into a file that cannot take it could cost every record the file holds.
+TEST_P(SavedSetupTest, GameGoesOnAndOnlyAUsableFileIsWritten)
 {
-    const SetupCase& c = GetParam();
+    const FileCase& c = GetParam();
     MakeFreshFile();
-    if (c.rows) {
-        Sql(c.rows);
-    } else {  // saved twice, as two runs would: the tables are rewritten, not appended to
-        SaveSetupWith(c.marks, c.players);
-        SaveSetupWith(c.marks, c.players);
-    }
-    EXPECT_EQ(LoadedSetup(), Expect(c.marks, c.players));
+    Sql(c.rows);
+    if (c.damage)
+        c.damage(*this);
+    if (IsSkipped())
+        return;
+    const auto state = [this] { return std::pair(Bytes(), fs::symlink_status(DataPath()).type()); };
+    const auto before = state();
+    EXPECT_EQ(OpenDataFile(true), c.opens);
+    CloseDataFile();
+    EXPECT_EQ(Loaded(), c.loads);
+    SaveSetupWith({true, false, true, false}, std::get<Names>(Saved));  // rewrites the tables, never appends
+    EXPECT_EQ(Loaded(), c.saves ? Saved : c.loads);
+    EXPECT_TRUE(c.saves || state() == before) << "the file changed";
+    // Only OpenDataFile(true) tells the user, in exactly these words.
+    const Message error{"There was an error opening the\r\ndata file. Please make sure the file\r\n"
+                        "'Zarvo.dat' exists in this directory.", vbOKOnly | vbCritical, "Zarvo - Data File Error"};
+    EXPECT_EQ(messages, std::vector<Message>(c.opens ? 0 : 1, error));
 }
 
-INSTANTIATE_TEST_SUITE_P(Stored, SetupTest, ::testing::ValuesIn(SetupCases),
+INSTANTIATE_TEST_SUITE_P(Files, SavedSetupTest, ::testing::ValuesIn(Cases),
                          [](const auto& info) { return std::string(info.param.name); });
-
-using SaveSetupTest = DataFileFixture;
-
-TEST_F(SaveSetupTest, FailurePartWayKeepsTheRowsOfTheLastExit)
-{
-    // Empty tables would be read at the next start as the defaults.
-    MakeFreshFile();
-    SaveSetupWith({true, false, true, true}, {"Ann", "Bob"});
-    const std::string before = Sql("SELECT * FROM Setup; SELECT * FROM PlayersInUse");
-    Sql("CREATE TRIGGER DiskFull BEFORE INSERT ON PlayersInUse WHEN NEW.PlayerNumber = 2 "
-        "BEGIN SELECT RAISE(ABORT, 'disk full'); END;");
-    SaveSetupWith({false, false, false, false}, {"Cy", "Dee", "Eve"});
-    EXPECT_EQ(Sql("SELECT * FROM Setup; SELECT * FROM PlayersInUse"), before);
-}
 }
