@@ -11,8 +11,11 @@
 namespace {
 QStringList g_events;   // "NameChanged: <name>" for each name change announced
 
+// The names of the shown objects, in the order of the tree.
 QStringList Names(QAccessibleInterface* node)
 {
+    if (node->state().invisible)
+        return {};
     QStringList names{node->text(QAccessible::Name)};
     for (int i = 0; i < node->childCount(); ++i)
         names += Names(node->child(i));
@@ -29,33 +32,27 @@ protected:
 // with face and row can all be read; a changed caption is announced.
 TEST_F(Accessibility, TheCardAndTheDiceCanBeRead)
 {
-    const char* const categories[] = {"Ones", "Twos", "Threes", "Fours", "Fives", "Sixes",
-                                      "Three of a Kind", "Four of a Kind", "Full House", "Small Straight",
-                                      "Large Straight", "Zarvo", "Chance"};
     const char* const faces[] = {"", "one", "two", "three", "four", "five", "six"};
-    QStringList tree = Tree();
-    for (const char* category : categories)
-        EXPECT_TRUE(tree.contains(QString(category) + ": open")) << category;
-    EXPECT_TRUE(tree.contains("Three of a Kind")) << "a row caption is read without its dots";
-    EXPECT_TRUE(tree.contains("Player 1's turn. Please roll."));
-    EXPECT_TRUE(tree.contains("Player 1's Scoreboard"));
-
+    form->show();
+    EXPECT_TRUE(Tree().join('|').contains(
+        "Player 1's turn. Please roll.|Die 1: on the pile|Die 2: on the pile|Die 4: on the pile|Die 5: on the pile|"
+        "Die 3: six, to roll|Player 1's Scoreboard|Ones|Twos|Threes|Fours|Fives|Sixes|Three of a Kind|Four of a Kind|"
+        "Full House|Small Straight|Large Straight|Zarvo|Chance|Left|Right|Bonus|Total|Ones: open|Twos: open|"
+        "Threes: open|Fours: open|Fives: open|Sixes: open|Three of a Kind: open|Four of a Kind: open|"
+        "Full House: open|Small Straight: open|Large Straight: open|Zarvo: open|Chance: open|Left: 0|Right: 0|"
+        "Bonus: 0|Total: 0")) << Tree().join('|').toStdString();
     Click(form->cmdRoll);
     FinishRoll();
     int sum = 0;
     for (int i = 0; i < 5; ++i) {
-        const int face = logic().mDice[i];
-        sum += face;
-        EXPECT_TRUE(Tree().contains(QString("Die %1: %2, kept").arg(i + 1).arg(faces[face]))) << i;
+        sum += logic().mDice[i];
+        EXPECT_TRUE(Tree().contains(QString("Die %1: %2, kept").arg(i + 1).arg(faces[logic().mDice[i]]))) << i;
     }
     answers = {vbYes};
     Click(form->cmdRoll);   // accept
     EXPECT_TRUE(Tree().contains("Chance: open, would score")) << "every roll scores in Chance";
     Click(form->lblRight[7]);
-    tree = Tree();
-    for (const QString expected : {"Chance: %1", "Right: %1", "Total: %1"})
-        EXPECT_TRUE(tree.contains(expected.arg(sum))) << expected.arg(sum).toStdString();
-    EXPECT_TRUE(tree.contains("Left: 0"));
+    EXPECT_TRUE(Tree().join('|').contains(QString("Chance: %1|Left: 0|Right: %1|Bonus: 0|Total: %1").arg(sum)));
 
     // As when a screen reader listens: the platform's bridge is on.
     QPlatformAccessibility* bridge = QGuiApplicationPrivate::platformIntegration()->accessibility();
