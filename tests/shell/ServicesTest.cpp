@@ -9,9 +9,7 @@
 #include "DateTime.h"
 #include "MsgBox.h"
 #include "NumberText.h"
-#include "QBColor.h"
 #include "QtServices.h"
-#include "Twips.h"
 
 // Str keeps a blank for the sign from 0 up; display rounding sends ties to the even neighbour, negatives too.
 TEST(NumberText, StrAndRoundingToEven)
@@ -32,18 +30,13 @@ TEST(DateTime, FormatAndPinnedClock)
     EXPECT_GE(Now().year, 2024);
 }
 
-// Files beside the program are joined with one separator, whatever the path was given with; the four colours
-// of the old palette; 15 twips to the pixel, rounded to the nearest.
-TEST(Services, PathsColoursAndTwips)
+// Files beside the program are joined with one separator, whatever the path was given with.
+TEST(Services, AppPath)
 {
     SetAppPath("/opt/zarvo/");
     EXPECT_EQ(AppPath() + " " + AppFile("Zarvo.dat"), "/opt/zarvo /opt/zarvo/Zarvo.dat");
     SetAppPath("");
     EXPECT_EQ(AppFile("Zarvo.dat"), "./Zarvo.dat");
-    EXPECT_EQ(std::vector({QBColor(0), QBColor(7), QBColor(8), QBColor(15)}),
-              std::vector<std::uint32_t>({0x000000, 0xC0C0C0, 0x808080, 0xFFFFFF}));
-    EXPECT_EQ(std::tuple(TwipsToPixels(4575), TwipsToPixels(-30), TwipsToPixels(22), PixelsToTwips(41)),
-              std::tuple(305, -2, 1, 615));
 }
 
 // The real message box: the text with each carriage return and line feed as one break, the icon, the
