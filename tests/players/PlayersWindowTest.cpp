@@ -7,30 +7,27 @@
 #include "GameDialogs.h"
 #include "frmPlayers.h"
 
-static void Seat(QComboBox* box, const QString& value) { box->setCurrentIndex(box->findText(value)); }
-
-// Without a file: the message first, lblNote for Add and Remove, eight seats grown, and Close
-// during a turn changes nothing. With it: two names typed and added, three seats, Play.
+// Without a file: the message first, lblNote for Add and Remove, eight seats grown, and Close during a turn
+// changes nothing. With it: two names typed and added, three seats, and Play takes the seats up to the first
+// free one, enables the summary, clears the sessions and starts a new game.
 TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
 {
     GameDialogs dialogs(*form);
     form->SetDialogs(&dialogs);
     QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
     FinishRoll();
-    const auto state = [this] {
-        return std::tuple(form->cmdRoll->text(), logic().mRollsDone, gCurrentPlayer, logic().mDice, form->DieLeft(0));
-    };
+    const auto state = [this] { return std::tuple(form->cmdRoll->text(), logic().mRollsDone, logic().mDice); };
     const auto before = state();
     answers = {vbOK};
     AnswerNextModal([](QWidget* modal) {
         auto& d = *dynamic_cast<frmPlayers*>(modal);
         EXPECT_TRUE(d.fraAddRemove->isHidden() && !d.lblNote->isHidden());
         for (int i = 1; i < MaxPlayers; ++i)
-            Seat(d.cboPlayer[i], QString("< Player %1 >").arg(i + 1));
-        const std::pair<QWidget*, QRect> twips[] = {
-            {&d, {d.x() * 15, d.y() * 15, 3615, 4845}}, {d.cboPlayer[7], {1800, 2760, 1455, 315}},
-            {d.fraCurrentPlayers, {120, 120, 3375, 3255}}, {d.cmdRemove, {2400, 270, 855, 315}},
-            {d.lblNote, {180, 3570, 3375, 735}}, {d.cmdPlay, {2160, 4350, 1335, 375}}};
+            d.cboPlayer[i]->setCurrentIndex(d.cboPlayer[i]->findText(QString("< Player %1 >").arg(i + 1)));
+        // Six steps of 360 twips below the seats: the dialog's height, the frame's, and the tops under it.
+        const std::pair<QWidget*, QRect> twips[] = {{&d, {d.x() * 15, d.y() * 15, 3615, 4845}},
+            {d.fraCurrentPlayers, {120, 120, 3375, 3255}}, {d.lblNote, {180, 3570, 3375, 735}},
+            {d.cmdPlay, {2160, 4350, 1335, 375}}, {d.cmdCancel, {720, 4350, 1335, 375}}};
         for (const auto& [w, at] : twips)
             EXPECT_EQ(QRect(w->x() * 15, w->y() * 15, w->width() * 15, w->height() * 15), at) << "top " << at.y();
         d.cmdCancel->click();
@@ -50,14 +47,13 @@ TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
         QTest::keyClicks(d.cboAddRemove, " Bo-b'by 1234567");
         QTest::keyClick(d.cboAddRemove, Qt::Key_Backspace);
         d.cmdAdd->click();
-        Seat(d.cboPlayer[0], "Ann");
-        Seat(d.cboPlayer[1], "Bobby 12345");
-        Seat(d.cboPlayer[2], "< Player 3 >");
+        for (auto [i, name] : {std::pair{0, "Ann"}, {1, "Bobby 12345"}, {2, "< Player 3 >"}})
+            d.cboPlayer[i]->setCurrentIndex(d.cboPlayer[i]->findText(name));
         QTest::keyClick(&d, Qt::Key_Return);   // cmdPlay is the default button
     });
     form->mnuNewPlayers->trigger();
-    EXPECT_EQ(gPlayerNames[1] + "," + gPlayerNames[2] + "," + gPlayerNames[3], "Ann,Bobby 12345,< Player 3 >");
-    EXPECT_EQ(std::tuple(form->mnuScoringSummary->isEnabled(), gSessionStats.UBound(), gSessionStats[1].SessionGames),
-              std::tuple(true, 3, 0));
-    EXPECT_EQ(form->lblPleaseRoll->Caption(), "Ann's turn. Please roll.");
+    EXPECT_EQ(std::tuple(gPlayerNames[1] + "," + gPlayerNames[2] + "," + gPlayerNames[3], gPlayerNames.UBound(),
+                         form->mnuScoringSummary->isEnabled(), gSessionStats[1].SessionGames,
+                         form->lblPleaseRoll->Caption()),
+              std::tuple("Ann,Bobby 12345,< Player 3 >", 3, true, 0, "Ann's turn. Please roll."));
 }

@@ -11,44 +11,32 @@ struct RecordingDialogs : HighScoreDialogs {
     void ShowHighScores() override { shown.push_back("table"); }
 };
 
-const DateTime Stamp{2026, 5, 4, 21, 15, 9};
 const std::string Fresh = "Ottilie|248;Bramwell|231;Quince|219;Marisol|207;Fenwick|196;Ludmila|188;Tobiah|175;Wren|163;"
                           "Castor|150;Isadora|142";
-const Names One{"< Player 1 >"};
-struct Case { const char *name, *damage; Names players; std::vector<int> totals; Names shown;
-              std::string table, message{}; };
-void PrintTo(const Case& c, std::ostream* out) { *out << c.name; }
+struct Case { const char* damage; Names players; std::vector<int> totals; Names shown; std::string table, message{}; };
 const Case Cases[] = {
-    {"EqualToTheLowestIsNotEnough", "", One, {142}, {}, Fresh},
-    {"OneAbove", "", One, {143}, {"Player 1", "table"}, Fresh.substr(0, Fresh.find("Isadora")) + "Player 1's|143"},
-    {"LaterPlayersMeetTheTableAsLeft", "", {"Ann", "< Player 2 >", "Bo"}, {160, 145, 151},
-     {"Ann", "table", "Bo", "table"}, Fresh.substr(0, Fresh.find("Castor")) + "Ann's|160;Bo's|151"},
-    // An empty score counts as the lowest, text as the highest; a missing row stays missing.
-    {"DamagedTable", "UPDATE HighScores SET Score = NULL WHERE Player = 'Wren'; UPDATE HighScores SET Score = 'lots' "
-     "WHERE Player = 'Quince'; DELETE FROM HighScores WHERE Player = 'Ottilie'", One, {143}, {"Player 1", "table"},
-     "Quince|lots;Bramwell|231;Marisol|207;Fenwick|196;Ludmila|188;Tobiah|175;Castor|150;Player 1's|143;Isadora|142"},
-    // A file without its Setup table cannot be opened, as a missing one.
-    {"UnopenedFileToldOnceToTheFirstPlayer", "DROP TABLE Setup", Names(8, "< Player 1 >"), std::vector<int>(8, 300), {},
-     Fresh, "There was an error opening the data file."},
-    {"RefusedWriteToldToThePlayer", "CREATE TRIGGER No BEFORE UPDATE ON HighScores BEGIN SELECT RAISE(ABORT, '');"
-     "END", One, {300}, {"Player 1", "table"}, Fresh, "There was an error writing the data file."},
+    // Each player meets the table as the one before left it; equal to the lowest is not enough.
+    {"", {"Ann", "< Player 2 >", "< Player 3 >"}, {160, 150, 151}, {"Ann", "table", "Player 3", "table"},
+     Fresh.substr(0, Fresh.find("Castor")) + "Ann's|160;Player 3's|151"},
+    // A file without its Setup table cannot be opened, as a missing one: told once, to the first player.
+    {"DROP TABLE Setup", Names(8, "< Player 1 >"), std::vector<int>(8, 300), {}, Fresh,
+     "There was an error opening the data file."},
+    // A refused write is told to the player, and the table still shows.
+    {"CREATE TRIGGER No BEFORE UPDATE ON HighScores BEGIN SELECT RAISE(ABORT, ''); END", {"< Player 1 >"}, {300},
+     {"Player 1", "table"}, Fresh, "There was an error writing the data file."},
 };
 
-struct CheckHighScoreTest : DataFileFixture, ::testing::WithParamInterface<Case> {
-    void SetUp() override { DataFileFixture::SetUp(), MakeFreshFile(), SetClock([] { return Stamp; }); }
-};
+struct CheckHighScoreTest : DataFileFixture, ::testing::WithParamInterface<Case> {};
 }
 
 TEST_P(CheckHighScoreTest, BeatsTheLowestStrictlyAndReplacesItInPlace)
 {
     const Case& c = GetParam();
-    Sql(c.damage);
+    MakeFreshFile(), SetClock([] { return DateTime{2026, 5, 4, 21, 15, 9}; }), Sql(c.damage);
     gPlayerNames.ReDim(int(c.players.size())), gScores.ReDim(gPlayerNames.UBound()), ClearScoreboard();
-    for (int p = 1; p <= gPlayerNames.UBound(); ++p)
-        gPlayerNames[p] = c.players[p - 1], gScores[p][CatChance] = std::int16_t(c.totals[p - 1]);
     RecordingDialogs dialogs;
-    for (int p = 1; p <= gPlayerNames.UBound(); ++p)
-        CheckHighScore(p, dialogs);
+    for (int p = 1; p <= gPlayerNames.UBound(); ++p)   // each card full in turn
+        gPlayerNames[p] = c.players[p - 1], gScores[p][CatChance] = c.totals[p - 1], CheckHighScore(p, dialogs);
     EXPECT_EQ(dialogs.shown, c.shown);
     EXPECT_EQ(Sql("SELECT Player, Score FROM HighScores ORDER BY Score DESC, Player"), c.table);
     EXPECT_EQ(Sql("SELECT count(*) FROM HighScores WHERE (Player LIKE '%''s') <> (Date IS '2026-05-04 21:15:09')"),
