@@ -3,8 +3,6 @@
 // to do with the window, then triggers the code that opens it.
 #include <QApplication>
 #include <QTimer>
-#include <QWidget>
-#include <functional>
 #include <gtest/gtest.h>
 
 // Runs `answer` on the dialog once a modal window is up and active, as a user would meet it;
@@ -12,8 +10,7 @@
 inline void AnswerNextModal(std::function<void(QWidget*)> answer, int patience = 200)
 {
     QTimer::singleShot(0, [answer = std::move(answer), patience] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal && modal->isActiveWindow())
+        if (QWidget* modal = QApplication::activeModalWidget(); modal && modal->isActiveWindow())
             answer(modal);
         else if (patience > 0)
             AnswerNextModal(answer, patience - 1);

@@ -67,8 +67,7 @@ TEST(Help, ScoringExamplesAgreeWithTheRules)
 TEST_F(WindowTest, HelpMenuContentsAndAbout)
 {
     ASSERT_TRUE(QFile::copy(ZARVO_HELP_FILE, dir.filePath("Zarvo.hlp")));
-    form->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    ASSERT_TRUE(Shown());
     QTest::keyClick(form.get(), Qt::Key_F1);
     HelpWindow* help = nullptr;
     ASSERT_TRUE(QTest::qWaitFor([&] { return (help = dynamic_cast<HelpWindow*>(QApplication::activeWindow())); }));

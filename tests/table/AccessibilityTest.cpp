@@ -9,7 +9,7 @@
 #include "WindowFixture.h"
 
 namespace {
-QStringList g_events;   // "NameChanged: <name>" for each name change announced
+QStringList g_events;   // the names announced as changed
 
 // The names of the shown objects, in the order of the tree.
 QStringList Names(QAccessibleInterface* node)

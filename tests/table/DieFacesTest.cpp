@@ -45,8 +45,7 @@ TEST(DieFaces, EveryPixelAsDescribed)
         for (int face = 1; face <= 6; ++face) {
             const bool inverted = list == ImageList::ilsDieInv;
             const QImage image = DrawDieFace(face, list), dense = DrawDieFace(face, list, 2.0);
-            ASSERT_EQ(image.size(), QSize(41, 41));
-            ASSERT_EQ(dense.size(), QSize(82, 82));
+            ASSERT_EQ(std::pair(image.size(), dense.size()), std::pair(QSize(41, 41), QSize(82, 82)));
             for (int y = 0; y < 82; ++y)
                 for (int x = 0; x < 82; ++x) {
                     const QRgb expected = Described(x / 2, y / 2, face, inverted);

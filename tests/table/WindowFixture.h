@@ -13,7 +13,6 @@
 #include "AppPath.h"
 #include "MsgBox.h"
 #include "frmMain.h"
-#include "modCommon.h"
 #include "modGlobalVars.h"
 
 struct AskedMessage {
@@ -48,6 +47,7 @@ protected:
     }
 
     GameTable& logic() { return form->Logic(); }
+    bool Shown() { return form->show(), QTest::qWaitForWindowActive(form.get()); }   // as a player meets it
 
     // Ticks until the roll rests; gives the number of ticks.
     int FinishRoll()
@@ -57,17 +57,6 @@ protected:
             logic().tmrRoll_Timer();
         return ticks;
     }
-
-    // A mouse click at a point of the dice field, delivered to whatever widget lies there.
-    void ClickField(QPoint pixel, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QWidget* field = form->lblDie[0]->parentWidget();
-        QWidget* target = field->childAt(pixel);
-        ASSERT_NE(target, nullptr);
-        QTest::mouseClick(target, button, {}, target->mapFrom(field, pixel));
-    }
-    // The middle of die column i, in the empty band between the two rows.
-    static QPoint ColumnPoint(int i) { return QPoint((840 * i + 420) / 15, 1600 / 15); }
 
     void Click(QWidget* widget, Qt::MouseButton button = Qt::LeftButton)
     {
