@@ -41,6 +41,7 @@ public:
 
     // Turn and game flow.
     void StartNewGame();
+    void StartWithPlayers();
     void BeginTurn();
     void BeginCategorySelection();
     void ScoreCategory(int Category);

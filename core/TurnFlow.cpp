@@ -24,6 +24,15 @@ void GameTable::StartNewGame()
     mRollPhase = 0;   // stops a running roll; no tick can come between these steps
 }
 
+// The players are set, at load or by the player dialog's Play: the summary menu follows their
+// number and their session starts afresh, the same rule both times.
+void GameTable::StartWithPlayers()
+{
+    screen_.SetEnabled(Control::mnuScoringSummary, gPlayerNames.UBound() > 1);
+    ClearSessionStats();
+    StartNewGame();
+}
+
 void GameTable::BeginTurn()
 {
     GatherDice();

@@ -2,9 +2,9 @@
 
 #include "frmPlayers.h"
 
-void ShowPlayersDialog(QWidget* owner, TableScreen& table, GameTable& game)
+void ShowPlayersDialog(QWidget* owner, GameTable& game)
 {
-    frmPlayers dialog(owner, table, game);
+    frmPlayers dialog(owner, game);
     // Top edges level, centred across the owner, by the outer edges of both windows. The
     // dialog's border is not known before it shows; its sides are those of its owner.
     const QRect outer = owner->frameGeometry();

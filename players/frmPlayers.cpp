@@ -8,7 +8,6 @@
 #include "NameKeyRule.h"
 #include "QtServices.h"
 #include "TypedKeyFilter.h"
-#include "modCommon.h"
 
 namespace {
 constexpr int ClientWidth = 3615, TwoSeatHeight = 2685;   // with two seats
@@ -36,9 +35,9 @@ void ShowList(QComboBox* box, const ItemList& list)
 }
 }
 
-frmPlayers::frmPlayers(QWidget* owner, TableScreen& table, GameTable& game)
+frmPlayers::frmPlayers(QWidget* owner, GameTable& game)
     : DialogWindow(owner, " Zarvo - Change Players", ClientWidth, TwoSeatHeight, TitleBar::CloseBox, true),
-      table_(table), game_(game)
+      game_(game)
 {
     CreateSeats();
     CreateAddRemove();
@@ -145,8 +144,6 @@ void frmPlayers::cmdRemove_Click()
 void frmPlayers::cmdPlay_Click()
 {
     selection_.ReadSeats();
-    table_.SetEnabled(Control::mnuScoringSummary, gPlayerNames.UBound() > 1);
-    ClearSessionStats();
-    game_.StartNewGame();   // a game in progress is given up without a question
+    game_.StartWithPlayers();   // a game in progress is given up without a question
     accept();
 }

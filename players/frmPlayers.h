@@ -12,12 +12,11 @@
 #include "PlayerSelection.h"
 
 class GameTable;
-class TableScreen;
 
 class frmPlayers : public DialogWindow {
 public:
     // Form_Load runs here: a data file that does not open is reported before the dialog shows.
-    frmPlayers(QWidget* owner, TableScreen& table, GameTable& game);
+    frmPlayers(QWidget* owner, GameTable& game);
 
     Frame* fraCurrentPlayers = nullptr;
     std::array<Label*, MaxPlayers> lblPlayer{};
@@ -39,6 +38,5 @@ private:
     void ShowSelection();
 
     PlayerSelection selection_;
-    TableScreen& table_;
     GameTable& game_;
 };

@@ -4,7 +4,7 @@
 #include "PlayersWindow.h"
 #include "ResultsWindows.h"
 
-void GameDialogs::ShowChangePlayers() { ShowPlayersDialog(&form_, form_, form_.Logic()); }
+void GameDialogs::ShowChangePlayers() { ShowPlayersDialog(&form_, form_.Logic()); }
 void GameDialogs::ShowPlayerResults() { ShowPlayerResultsDialog(&form_); }
 void GameDialogs::CheckHighScore(int player) { CheckHighScoreWithDialogs(player, &form_); }
 void GameDialogs::ShowSummary() { ShowSummaryDialog(&form_); }

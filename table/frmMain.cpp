@@ -20,7 +20,6 @@
 #include "QBColor.h"
 #include "QtServices.h"
 #include "Twips.h"
-#include "modCommon.h"
 #include "modGlobalVars.h"
 
 namespace {
@@ -281,9 +280,7 @@ void frmMain::Form_Load()
     mnuUseKeyboard->setChecked(marks.UseKeyboard);
     mnuScoringPreview->setChecked(marks.ShowScoringPreview);
     mnuAnimation->setChecked(marks.AnimateRolling);
-    SetEnabled(Control::mnuScoringSummary, gPlayerNames.UBound() > 1);
-    ClearSessionStats();
-    logic_.StartNewGame();
+    logic_.StartWithPlayers();
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
@@ -437,10 +434,12 @@ void frmMain::NameDie(int i)
 {
     static const char* const faces[] = {"", "one", "two", "three", "four", "five", "six"};
     QString name = QString("Die %1: ").arg(i + 1);
-    if (DieLeft(i) != DieColumnLeft(i))
+    if (DieLeft(i) == DieColumnLeft(i))
+        name += QString(faces[dieFace_[i]]) + (DieTop(i) == KeepRow ? ", kept" : DieTop(i) == RollRow ? ", to roll" : ", rolling");
+    else if (DieLeft(i) == PileLeft && DieTop(i) == RollRow)
         name += "on the pile";   // under die 3: no face to be seen
     else
-        name += QString(faces[dieFace_[i]]) + (DieTop(i) == KeepRow ? ", kept" : DieTop(i) == RollRow ? ", to roll" : ", rolling");
+        name += "rolling";       // on its way between its column and the pile
     imgDie[i]->setAccessibleName(name + (dieCursor_[i] ? ", under the cursor" : ""));
 }
 
@@ -477,7 +476,8 @@ void frmMain::SetCellForeColor(int category, std::uint32_t rgb)
 }
 
 // "Threes: 6" for a filled cell; while choosing, "Threes: open, would score 41" or "would
-// score nothing" for a boxed one, as its colour tells; the cursor's white text marks its cell.
+// score nothing" for a boxed one, by the rule that chose its colour (under the key cursor the
+// colour no longer tells); the cursor's white text marks its cell.
 void frmMain::NameCell(int category)
 {
     Label* cell = Cell(category);
