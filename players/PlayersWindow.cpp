@@ -5,10 +5,9 @@
 void ShowPlayersDialog(QWidget* owner, GameTable& game)
 {
     frmPlayers dialog(owner, game);
-    // Top edges level, centred across the owner, by the outer edges of both windows. The
-    // dialog's border is not known before it shows; its sides are those of its owner.
+    // Top edges level, centred across the owner, by the outer edges of both windows.
     const QRect outer = owner->frameGeometry();
-    const int dialogWidth = dialog.width() + outer.width() - owner->width();
+    const int dialogWidth = dialog.width() + dialog.Decoration().width();
     dialog.move(outer.x() + (outer.width() - dialogWidth) / 2, outer.y());
     dialog.exec();
 }

@@ -34,12 +34,20 @@ void DialogWindow::CentreOnOwner()
     if (!owner)
         return;
     const QRect outer = owner->frameGeometry();
-    const QSize frame = frameGeometry().size() - size();   // the decoration, once known
+    const QSize frame = Decoration();
     move(outer.x() + (outer.width() - width() - frame.width()) / 2,
          outer.y() + (outer.height() - height() - frame.height()) / 2);
 }
 
-void DialogWindow::MoveTo(int left, int top) { move(TwipsToPixels(left), TwipsToPixels(top)); }
+QSize DialogWindow::Decoration() const
+{
+    const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
+    if (isVisible())
+        return frameGeometry().size() - size();
+    if (windowFlags().testFlag(Qt::FramelessWindowHint) || !owner)
+        return {};
+    return owner->frameGeometry().size() - owner->size();
+}
 
 void DialogWindow::keyPressEvent(QKeyEvent* event)
 {

@@ -18,10 +18,11 @@ public:
     int ClientHeight() const;
     void SetClientHeight(int twips);
 
-    // Where the dialog opens, as the outer edges of the windows: centred on its owner, or at
-    // a Left and Top of the screen in twips.
+    // Centred on its owner, by the outer edges of both windows.
     void CentreOnOwner();
-    void MoveTo(int left, int top);
+    // What the window manager draws around the client area: the dialog's own once shown;
+    // before that, its owner's, which carries the same kind of title bar (none when frameless).
+    QSize Decoration() const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
