@@ -23,9 +23,8 @@ frmHighScoreNotify::frmHighScoreNotify(QWidget* owner)
     lblCongrats[0] = NewLabel(this, 120, 120, 2535, 255, "Congratulations!", Qt::AlignHCenter);
     lblCongrats[0]->setFont(Look::CaptionFont());
     lblCongrats[1] = NewLabel(this, 120, 360, 2535, 255, "You got a High Score!", Qt::AlignHCenter);
-    QFont bold = Look::CaptionFont();
-    bold.setBold(true);
-    lblCongrats[1]->setFont(bold);
+    lblCongrats[1]->setFont(Look::CaptionFont());
+    SetBold(lblCongrats[1]);
     lblCongrats[2] = NewLabel(this, 480, 720, 1815, 495, "(Please enter your name as you want it to appear.)",
                               Qt::AlignHCenter);
     new Line(this, 60, 1200, 2700, 1200, Look::InactiveTitleBar);   // Line1

@@ -10,13 +10,6 @@
 
 namespace {
 constexpr int RowTops[HighScoreRows] = {555, 900, 1260, 1620, 1980, 2340, 2700, 3060, 3420, 3780};
-
-void SetBold(Label* label)
-{
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-}
 }
 
 frmHighScores::frmHighScores(QWidget* owner)

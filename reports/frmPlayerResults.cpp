@@ -13,23 +13,12 @@ constexpr int LabelHeight = 255;
 // Without the all-time figures their line goes, and everything below it moves up.
 constexpr int AllTimeLine = 240;
 
+// A label of one line.
 Label* NewLabel(QWidget* parent, int left, int top, int width, const QString& caption = {},
                 Qt::Alignment alignment = Qt::AlignLeft)
 {
-    auto* label = new Label(parent, alignment);
-    label->setGeometry(TwipsRect(left, top, width, LabelHeight));
-    label->SetCaption(caption);
-    return label;
+    return ::NewLabel(parent, left, top, width, LabelHeight, caption, alignment);
 }
-
-void MakeBold(QWidget* widget)
-{
-    QFont font = widget->font();
-    font.setBold(true);
-    widget->setFont(font);
-}
-
-void MoveUp(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() - TwipsToPixels(twips)); }
 }
 
 frmPlayerResults::frmPlayerResults(QWidget* owner)
@@ -41,9 +30,8 @@ frmPlayerResults::frmPlayerResults(QWidget* owner)
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     lblScored = NewLabel(this, 240, 180, 3375, {}, Qt::AlignHCenter);
-    QFont caption = Look::CaptionFont();
-    caption.setBold(true);
-    lblScored->setFont(caption);
+    lblScored->setFont(Look::CaptionFont());
+    SetBold(lblScored);
 
     fraCurrentSession = new Frame(this);
     fraCurrentSession->setGeometry(TwipsRect(120, 600, 3615, 1455));
@@ -81,13 +69,13 @@ void frmPlayerResults::ShowValues()
                                              {shown.BoldAllLow, lblAllLow}};
     for (const auto& [bold, label] : marks)
         if (bold)
-            MakeBold(label);
+            SetBold(label);
     if (shown.AllTime)
         return;
     for (Label* label : {lblAll, lblAllHigh, lblAllLow, lblAllAvg})
         label->hide();
-    MoveUp(lblCurrentInfo, AllTimeLine);
+    AddToTop(lblCurrentInfo, -AllTimeLine);
     fraCurrentSession->resize(fraCurrentSession->width(), fraCurrentSession->height() - TwipsToPixels(AllTimeLine));
-    MoveUp(cmdOK, AllTimeLine);
+    AddToTop(cmdOK, -AllTimeLine);
     SetClientHeight(ClientHeight() - AllTimeLine);
 }

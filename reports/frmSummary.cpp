@@ -15,18 +15,14 @@ namespace {
 constexpr int GridWidth = 4575, GridHeight = 3585;   // the client area for eight players
 constexpr int LabelHeight = 255, FirstRowTop = 600, RowHeight = 240;
 
+// A label of one line.
 Label* NewLabel(QWidget* parent, int left, int top, int width, Qt::Alignment alignment, const QString& caption = {})
 {
-    auto* label = new Label(parent, alignment);
-    label->setGeometry(TwipsRect(left, top, width, LabelHeight));
-    label->SetCaption(caption);
-    return label;
+    return ::NewLabel(parent, left, top, width, LabelHeight, caption, alignment);
 }
 
 // Numbers keep the leading blank of Str; on the right-aligned labels it falls on the left, unseen.
 QString Number(int value) { return QString::fromStdString(Str(value)); }
-
-void AddToTop(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() + TwipsToPixels(twips)); }
 }
 
 frmSummary::frmSummary(QWidget* owner)

@@ -77,6 +77,15 @@ Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const
     return label;
 }
 
+void SetBold(QWidget* widget)
+{
+    QFont font = widget->font();
+    font.setBold(true);
+    widget->setFont(font);
+}
+
+void AddToTop(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() + TwipsToPixels(twips)); }
+
 Line::Line(QWidget* parent, int x1, int y1, int x2, int y2, const QColor& color) : QWidget(parent)
 {
     const int left = TwipsToPixels(std::min(x1, x2));

@@ -46,6 +46,10 @@ private:
 // A label at its twip rectangle in `parent`, with its caption.
 Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
                 Qt::Alignment alignment = Qt::AlignLeft);
+// The widget's own font, made bold.
+void SetBold(QWidget* widget);
+// Moves a control down by `twips` (up when negative), as a change of its Top.
+void AddToTop(QWidget* widget, int twips);
 
 // A straight line of one pixel, from (x1, y1) to (x2, y2) in twips of its parent.
 class Line : public QWidget {

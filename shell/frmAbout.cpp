@@ -19,9 +19,7 @@ constexpr int BorderPixels = 3;
 Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
                 const QFont& font)
 {
-    auto* label = new Label(parent, Qt::AlignHCenter);
-    label->setGeometry(TwipsRect(left, top, width, height));
-    label->SetCaption(caption);
+    Label* label = ::NewLabel(parent, left, top, width, height, caption, Qt::AlignHCenter);
     label->setFont(font);
     return label;
 }
