@@ -16,12 +16,15 @@ std::string PlayerDisplayName(int player)
     const std::string& name = gPlayerNames[player];
     if (name.empty() || name[0] != '<')
         return name;
-    std::string inner = name.size() >= 2 ? name.substr(1, name.size() - 2) : std::string();
-    const auto first = inner.find_first_not_of(' ');
+    return TrimBlanks(name.size() >= 2 ? name.substr(1, name.size() - 2) : std::string());
+}
+
+std::string TrimBlanks(const std::string& text)
+{
+    const auto first = text.find_first_not_of(' ');
     if (first == std::string::npos)
         return "";
-    const auto last = inner.find_last_not_of(' ');
-    return inner.substr(first, last - first + 1);
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 void ClearSessionStats()

@@ -16,3 +16,6 @@ int PlayerTotal(int player);
 
 // The placeholder text of a seat, "< Player 1 >" to "< Player 8 >".
 std::string PlaceholderName(int seat);
+
+// The text without the blanks at its ends.
+std::string TrimBlanks(const std::string& text);

@@ -5,6 +5,7 @@
 #include "MsgBox.h"
 #include "PlayerSelection.h"
 #include "PlayerTable.h"
+#include "modCommon.h"
 #include "modDatabase.h"
 
 namespace {
@@ -14,14 +15,6 @@ std::string Lines(std::initializer_list<const char*> lines)
     for (const char* line : lines)
         text += (text.empty() ? "" : vbCrLf) + std::string(line);
     return text;
-}
-
-std::string TrimBlanks(const std::string& text)
-{
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string::npos)
-        return "";
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 void ShowFileError(const char* consequence)

@@ -48,5 +48,4 @@ private:
     void LoadKnownPlayers();
     void TakeOutOfOtherBoxes(int Index, const std::string& name);
     void GiveBackToOtherBoxes(int Index, const std::string& name);
-    void RemoveEverywhere(const std::string& name);
 };

@@ -32,6 +32,32 @@ std::string AverageLine(int score, double average, const AverageLines& lines)
 
 std::string Rounded(double average) { return std::to_string(RoundToEven(average)); }
 
+// The record rules on the player's row, into `counted`; false when the row is missing or the
+// file refuses the write.
+bool CountRow(const std::string& key, int score, ResultValues& counted)
+{
+    Recordset row = OpenPlayerStatistics(key);
+    if (row.RecordCount() == 0)
+        return false;
+    row.MoveFirst();
+    if (UpdateLowScore(row, score)) {
+        counted.Info = AllTimeLowLine;
+        counted.BoldAllLow = true;
+    }
+    if (UpdateHighScore(row, score)) {
+        counted.Info = AllTimeHighLine;
+        counted.BoldAllHigh = true;
+    }
+    if (counted.Info.empty())
+        counted.Info = AverageLine(score, row.Fields("AverageScore").Value.CDbl(), OverallLines);
+    if (!CountGame(row, score))
+        return false;
+    counted.AllHigh = std::to_string(row.Fields("HighScore").Value.CInt());
+    counted.AllLow = std::to_string(row.Fields("LowScore").Value.CInt());
+    counted.AllAvg = Rounded(row.Fields("AverageScore").Value.CDbl());
+    return true;
+}
+
 // The all-time part: the two records, the overall-average line, the game counted, and the row
 // shown. It works on a copy of `shown` that replaces it only when the game was counted; false
 // leaves the player as if the data file had not opened.
@@ -47,28 +73,7 @@ bool CountAllTime(const std::string& storedName, int score, ResultValues& shown)
         return false;
     const std::string key = storedName.starts_with('<') ? PlaceholderRowName : storedName;
     ResultValues counted = shown;
-    bool done = gDataDatabase.BeginTrans();
-    if (done) {
-        Recordset row = OpenPlayerStatistics(key);
-        done = row.RecordCount() > 0;
-        if (done) {
-            row.MoveFirst();
-            if (UpdateLowScore(row, score)) {
-                counted.Info = AllTimeLowLine;
-                counted.BoldAllLow = true;
-            }
-            if (UpdateHighScore(row, score)) {
-                counted.Info = AllTimeHighLine;
-                counted.BoldAllHigh = true;
-            }
-            if (counted.Info.empty())
-                counted.Info = AverageLine(score, row.Fields("AverageScore").Value.CDbl(), OverallLines);
-            done = CountGame(row, score) && gDataDatabase.CommitTrans();
-            counted.AllHigh = std::to_string(row.Fields("HighScore").Value.CInt());
-            counted.AllLow = std::to_string(row.Fields("LowScore").Value.CInt());
-            counted.AllAvg = Rounded(row.Fields("AverageScore").Value.CDbl());
-        }
-    }
+    const bool done = gDataDatabase.BeginTrans() && CountRow(key, score, counted) && gDataDatabase.CommitTrans();
     if (!done)
         gDataDatabase.Rollback();
     CloseDataFile();
