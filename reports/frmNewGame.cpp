@@ -6,7 +6,7 @@
 #include "modGlobalVars.h"
 
 // No close box and no Escape: the window waits for a button. Closed any other way it leaves
-// gNewGameChoice as it was, which the end of a game reads as "neither".
+// gNewGameChoice as it was: 0 in the first game of a run, else the last answer.
 frmNewGame::frmNewGame(QWidget* owner)
     : DialogWindow(owner, " Zarvo - New Game", 3015, 1110, TitleBar::NoCloseBox, false)
 {

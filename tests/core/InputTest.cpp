@@ -58,7 +58,7 @@ TEST_F(InputTest, TurnByKeys)
     for (int key : {0, 8, 9, 27, 32, 36, 41, 46, 65, 112})
         EXPECT_EQ(table.Form_KeyDown(key), key);
     table.mnuUseKeyboard_Click();
-    table.mnuUseKeyboard_Click();   // on and off by the menu: that makes no offer
+    table.mnuUseKeyboard_Click();   // on and off by the menu is not the offer: the arrow still brings it
     answers = {vbNo};
     Keys({vbKeyDown, vbKeyLeft});
     EXPECT_EQ(calls, std::vector{Box("Do you want to enable keyboard use?", vbYesNo | vbQuestion,
