@@ -120,6 +120,7 @@ TEST_F(WholeGame, TwoPlayersByMouseAndKeysThenAgainUntilNo)
     AnswerDialogs(answerer);
     form.mnuNewPlayers->trigger();   // Play, the default, seats the same two players again
     ASSERT_EQ(seen, std::vector<std::string>{" Zarvo - Change Players"});
+    EXPECT_TRUE(form.mnuScoringSummary->isEnabled());   // two players: a summary to ask for
     seen.clear();
     for (const Turn& t : Card) {
         SCOPED_TRACE(t.category);
