@@ -105,12 +105,11 @@ public:
     }
 
     // The games counted in a player's row of the data file; -1 without a row.
-    int GamesPlayed(std::string key)
+    int GamesPlayed(const std::string& key)
     {
-        for (std::size_t at = key.find('\''); at != std::string::npos; at = key.find('\'', at + 2))
-            key.insert(at, "'");
-        const std::string n = Sql("SELECT GamesPlayed FROM Player WHERE PlayerName = '" + key + "'");
-        return n.empty() ? -1 : std::stoi(n);
+        const std::string rows = ";" + Sql("SELECT PlayerName, GamesPlayed FROM Player");
+        const auto at = rows.find(";" + key + "|");
+        return at == std::string::npos ? -1 : std::atoi(rows.c_str() + at + key.size() + 2);
     }
 
     // Unless a new game has cleared the cards: cells go from EmptyCell to a score once and the
@@ -124,11 +123,10 @@ public:
                 fresh = fresh && gScores[p][row] == (row == BonusCell ? 0 : EmptyCell);
         ASSERT_TRUE(fresh || gScores.UBound() == before.UBound());
         for (int p = 1; !fresh && p <= gScores.UBound(); ++p)
-            for (int row = 1; row <= BonusCell; ++row) {
+            for (int row = 1; row <= BonusCell; ++row)
                 ASSERT_TRUE(row == BonusCell ? gScores[p][row] >= before[p][row]
                                              : before[p][row] == EmptyCell || gScores[p][row] == before[p][row])
                     << "player " << p << ", row " << row;
-            }
         const ScoreCard& card = gScores[gCurrentPlayer];
         int left = 0, right = 0;
         for (int row = 1; row <= CategoryCount; ++row)

@@ -8,25 +8,17 @@
 #include "AppPath.h"
 #include "DateTime.h"
 #include "MsgBox.h"
-#include "NumberText.h"
 #include "QtServices.h"
 
-// Str keeps a blank for the sign from 0 up; display rounding sends ties to the even neighbour, negatives too.
-TEST(NumberText, StrAndRoundingToEven)
+// Dates read "mmm. d, yyyy" with the English month names of their own table whatever the locale, the day without
+// a leading zero.
+TEST(DateTime, EveryMonthInEnglish)
 {
-    EXPECT_EQ(Str(0) + Str(1270) + Str(-5), " 0 1270-5");
-    for (const auto& [value, rounded] : {std::pair{245.5, 246L}, {246.5, 246L}, {0.5, 0L}, {1.5, 2L}, {2.5, 2L},
-                                         {-0.5, 0L}, {-1.5, -2L}, {245.49, 245L}, {245.51, 246L}})
-        EXPECT_EQ(RoundToEven(value), rounded) << value;
-}
-
-// Dates read "mmm. d, yyyy" in English, the day without a leading zero; the clock can be pinned and let go.
-TEST(DateTime, FormatAndPinnedClock)
-{
-    EXPECT_EQ(FormatDate({2026, 11, 3}) + " / " + FormatDate({1999, 1, 31}), "Nov. 3, 2026 / Jan. 31, 1999");
-    SetClock([] { return DateTime{2026, 2, 28, 13, 5, 7, 250}; });
-    EXPECT_DOUBLE_EQ(Now().SecondsSinceMidnight(), 13 * 3600 + 5 * 60 + 7.25);
-    SetClock({});
+    std::string all;
+    for (int month = 1; month <= 12; ++month)
+        all += FormatDate({1999 + month, month, month * 2 + 7}) + "|";
+    EXPECT_EQ(all, "Jan. 9, 2000|Feb. 11, 2001|Mar. 13, 2002|Apr. 15, 2003|May. 17, 2004|Jun. 19, 2005|"
+                   "Jul. 21, 2006|Aug. 23, 2007|Sep. 25, 2008|Oct. 27, 2009|Nov. 29, 2010|Dec. 31, 2011|");
 }
 
 // Files beside the program are joined with one separator, whatever the path was given with.

@@ -41,7 +41,7 @@ TEST_F(Accessibility, TheCardAndTheDiceCanBeRead)
         "Threes: open|Fours: open|Fives: open|Sixes: open|Three of a Kind: open|Four of a Kind: open|"
         "Full House: open|Small Straight: open|Large Straight: open|Zarvo: open|Chance: open|Left: 0|Right: 0|"
         "Bonus: 0|Total: 0")) << Tree().join('|').toStdString();
-    Click(form->cmdRoll);
+    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
     FinishRoll();
     int sum = 0;
     for (int i = 0; i < 5; ++i) {
@@ -49,9 +49,9 @@ TEST_F(Accessibility, TheCardAndTheDiceCanBeRead)
         EXPECT_TRUE(Tree().contains(QString("Die %1: %2, kept").arg(i + 1).arg(faces[logic().mDice[i]]))) << i;
     }
     answers = {vbYes};
-    Click(form->cmdRoll);   // accept
+    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);   // accept
     EXPECT_TRUE(Tree().contains("Chance: open, would score")) << "every roll scores in Chance";
-    Click(form->lblRight[7]);
+    QTest::mouseClick(form->lblRight[7], Qt::LeftButton);
     EXPECT_TRUE(Tree().join('|').contains(QString("Chance: %1|Left: 0|Right: %1|Bonus: 0|Total: %1").arg(sum)));
 
     // As when a screen reader listens: the platform's bridge is on.

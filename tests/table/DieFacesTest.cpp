@@ -50,9 +50,7 @@ TEST(DieFaces, EveryPixelAsDescribed)
                 for (int x = 0; x < 82; ++x) {
                     const QRgb expected = Described(x / 2, y / 2, face, inverted);
                     ASSERT_EQ(dense.pixel(x, y), expected) << face << " dense at " << x << "," << y;
-                    if (x % 2 == 0 && y % 2 == 0) {
-                        ASSERT_EQ(image.pixel(x / 2, y / 2), expected) << face << " at " << x / 2 << "," << y / 2;
-                    }
+                    ASSERT_TRUE(x % 2 || y % 2 || image.pixel(x / 2, y / 2) == expected) << face << " at " << x / 2 << "," << y / 2;
                 }
         }
 }

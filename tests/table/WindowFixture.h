@@ -58,11 +58,6 @@ protected:
         return ticks;
     }
 
-    void Click(QWidget* widget, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseClick(widget, button, {}, widget->rect().center());
-    }
-
     QTemporaryDir dir;
     std::unique_ptr<frmMain> form;
     std::deque<int> answers;

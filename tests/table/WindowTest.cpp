@@ -72,14 +72,14 @@ TEST_F(Window, ClicksAndKeysReachTheGame)
     answers = {vbNo, vbNo, vbNo};
     QTest::keyClick(form->cmdRoll, Qt::Key_Return);
     QTest::keyClick(form->cmdRoll, Qt::Key_Space);
-    Click(form->imgDie[3], Qt::RightButton);
+    QTest::mouseClick(form->imgDie[3], Qt::RightButton);
     EXPECT_EQ(asked.size(), 3u);
-    Click(form->lblDie[1]);   // the column, between the rows
+    QTest::mouseClick(form->lblDie[1], Qt::LeftButton);   // the column, between the rows
     EXPECT_EQ(std::pair(form->DieTop(1), form->cmdRoll->text()), std::pair(RollRow, QString("Roll")));
-    Click(form->imgDie[1]);   // on the die itself, now in RollRow
+    QTest::mouseClick(form->imgDie[1], Qt::LeftButton);   // on the die itself, now in RollRow
     EXPECT_EQ(std::pair(form->DieTop(1), form->cmdRoll->text()), std::pair(KeepRow, QString("Accept")));
-    Click(form->lblDie[3]);
-    Click(form->imgDie[0], Qt::RightButton);
+    QTest::mouseClick(form->lblDie[3], Qt::LeftButton);
+    QTest::mouseClick(form->imgDie[0], Qt::RightButton);
     EXPECT_EQ(std::pair(form->DieTop(0), logic().mRollPhase), std::pair(KeepRow, 1));
 }
 
@@ -112,7 +112,7 @@ TEST_F(Window, ShortcutsAndNewGameDuringARoll)
     EXPECT_EQ(std::tuple(form->mnuScoringPreview->isChecked(), form->mnuUseKeyboard->isChecked(),
                          form->mnuAnimation->isChecked()), std::tuple(true, true, false));
     form->mnuAnimation->trigger();
-    Click(form->cmdRoll);
+    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
     for (int tick = 0; tick < 25; ++tick)
         logic().tmrRoll_Timer();   // into the spread
     QTest::keyClick(form.get(), Qt::Key_F3);
@@ -125,7 +125,7 @@ TEST_F(Window, TheTimerRunsOnlyDuringARoll)
 {
     EXPECT_FALSE(form->tmrRoll->isActive());
     form->tmrRoll->setInterval(0);
-    Click(form->cmdRoll);
+    QTest::mouseClick(form->cmdRoll, Qt::LeftButton);
     EXPECT_TRUE(form->tmrRoll->isActive());
     for (int events = 0; events < 10000 && form->tmrRoll->isActive(); ++events)
         QCoreApplication::processEvents();
