@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include "ControlNames.h"
 #include "GameTable.h"
 #include "Look.h"
 #include "NameKeyRule.h"
@@ -10,7 +11,7 @@
 #include "TypedKeyFilter.h"
 
 namespace {
-constexpr int ClientWidth = 3615, TwoSeatHeight = 2685;   // with two seats
+constexpr int PlayersWidth = 3615, TwoSeatHeight = 2685;   // with two seats
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
@@ -36,14 +37,14 @@ void ShowList(QComboBox* box, const ItemList& list)
 }
 
 frmPlayers::frmPlayers(QWidget* owner, GameTable& game)
-    : DialogWindow(owner, " Zarvo - Change Players", ClientWidth, TwoSeatHeight, TitleBar::CloseBox, true),
+    : DialogWindow(owner, " Zarvo - Change Players", PlayersWidth, TwoSeatHeight, TitleBar::CloseBox, true),
       game_(game)
 {
     CreateSeats();
     CreateAddRemove();
-    lblNote = new Label(this);
-    lblNote->SetCaption("Note: to be able to add or remove players, the file 'Zarvo.dat' must exist in the same "
-                        "directory at the program file 'Zarvo.exe'. ");
+    lblNote = NewLabel(this, {180, 1410, 3375, 735},
+                       "Note: to be able to add or remove players, the file 'Zarvo.dat' must exist in the same "
+                       "directory at the program file 'Zarvo.exe'. ");
     lblNote->hide();
 
     cmdCancel = new QPushButton("&Close", this);
@@ -58,6 +59,11 @@ frmPlayers::frmPlayers(QWidget* owner, GameTable& game)
                         cboPlayer[6], cboPlayer[7], cboAddRemove, cmdAdd, cmdRemove, cmdPlay, cmdCancel};
     for (std::size_t k = 1; k < std::size(order); ++k)
         setTabOrder(order[k - 1], order[k]);
+    SetArrayName(lblPlayer, "lblPlayer");
+    SetArrayName(cboPlayer, "cboPlayer");
+    SetNames({{fraCurrentPlayers, "fraCurrentPlayers"}, {fraAddRemove, "fraAddRemove"}, {cboAddRemove, "cboAddRemove"},
+              {cmdAdd, "cmdAdd"}, {cmdRemove, "cmdRemove"}, {lblNote, "lblNote"}, {cmdCancel, "cmdCancel"},
+              {cmdPlay, "cmdPlay"}});
 
     selection_.Form_Load();
     ShowSelection();
@@ -69,12 +75,10 @@ void frmPlayers::CreateSeats()
     fraCurrentPlayers->SetCaption("Selected Players:");
     for (int i = 0; i < MaxPlayers; ++i) {
         const QString number = QString::number(i + 1);
-        lblPlayer[i] = new Label(fraCurrentPlayers);
-        lblPlayer[i]->setGeometry(TwipsRect(240, 300 + 360 * i, 975, 255));
+        lblPlayer[i] = NewLabel(fraCurrentPlayers, {240, 300 + 360 * i, 975, 255}, "Player " + number + ":");
         lblPlayer[i]->setFont(Look::CaptionFont());
-        lblPlayer[i]->SetCaption("Player " + number + ":");
         cboPlayer[i] = new QComboBox(fraCurrentPlayers);
-        cboPlayer[i]->setGeometry(TwipsRect(1800, 240 + 360 * i, 1455, 315));
+        Place(cboPlayer[i], {1800, 240 + 360 * i, 1455, 315});
         cboPlayer[i]->setToolTip("Select player #" + number + ".");
         cboPlayer[i]->setAccessibleName("Player " + number);
         connect(cboPlayer[i], &QComboBox::currentIndexChanged, this, [this, i](int index) {
@@ -92,17 +96,17 @@ void frmPlayers::CreateAddRemove()
     cboAddRemove->setEditable(true);
     cboAddRemove->setInsertPolicy(QComboBox::NoInsert);   // only Add puts a name in the list
     cboAddRemove->setCompleter(nullptr);                  // what is typed stays as typed
-    cboAddRemove->setGeometry(TwipsRect(120, 270, 1455, 315));
+    Place(cboAddRemove, {120, 270, 1455, 315});
     cboAddRemove->setToolTip("Select player to remove, or enter name to add.");
     cboAddRemove->setAccessibleName("Player name");
     // cboAddRemove_KeyPress: typed keys reach the box, which hands them to its text field.
     FilterTypedKeys(cboAddRemove->lineEdit(), NameKeyRefused, cboAddRemove);
     cmdAdd = new QPushButton("Add", fraAddRemove);
-    cmdAdd->setGeometry(TwipsRect(1680, 270, 615, 315));
+    Place(cmdAdd, {1680, 270, 615, 315});
     cmdAdd->setToolTip("Add the player to the list.");
     connect(cmdAdd, &QPushButton::clicked, this, [this] { cmdAdd_Click(); });
     cmdRemove = new QPushButton("Remove", fraAddRemove);
-    cmdRemove->setGeometry(TwipsRect(2400, 270, 855, 315));
+    Place(cmdRemove, {2400, 270, 855, 315});
     cmdRemove->setToolTip("Remove the selected player from the list.");
     connect(cmdRemove, &QPushButton::clicked, this, [this] { cmdRemove_Click(); });
 }
@@ -118,11 +122,11 @@ void frmPlayers::ShowSelection()
     ShowList(cboAddRemove, selection_.cboAddRemove);
     const int grown = selection_.Growth;
     SetClientHeight(TwoSeatHeight + grown);
-    cmdPlay->setGeometry(TwipsRect(2160, 2190 + grown, 1335, 375));
-    cmdCancel->setGeometry(TwipsRect(720, 2190 + grown, 1335, 375));
-    fraAddRemove->setGeometry(TwipsRect(120, 1335 + grown, 3375, 735));
-    lblNote->setGeometry(TwipsRect(180, 1410 + grown, 3375, 735));
-    fraCurrentPlayers->setGeometry(TwipsRect(120, 120, 3375, 1095 + grown));
+    Place(cmdPlay, {2160, 2190 + grown, 1335, 375});
+    Place(cmdCancel, {720, 2190 + grown, 1335, 375});
+    Place(fraAddRemove, {120, 1335 + grown, 3375, 735});
+    Place(lblNote, {180, 1410 + grown, 3375, 735});
+    Place(fraCurrentPlayers, {120, 120, 3375, 1095 + grown});
     fraAddRemove->setVisible(selection_.fraAddRemoveVisible);
     lblNote->setVisible(!selection_.fraAddRemoveVisible);
 }

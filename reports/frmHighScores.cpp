@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "ControlNames.h"
 #include "Frame.h"
 #include "Label.h"
 #include "Look.h"
@@ -16,25 +17,30 @@ frmHighScores::frmHighScores(QWidget* owner)
     : DialogWindow(owner, "Zarvo - High Scores", 4575, 4845, TitleBar::CloseBox, true)
 {
     fraTopTen = new Frame(this);
-    fraTopTen->setGeometry(TwipsRect(120, 120, 4335, 4135));
-    lblNameLbl = NewLabel(fraTopTen, 600, 180, 1335, 255, "Player:");
-    lblScoreLbl = NewLabel(fraTopTen, 1920, 180, 615, 255, "Score:", Qt::AlignHCenter);
-    blbDateLbl = NewLabel(fraTopTen, 2760, 180, 1455, 255, "Date:");
+    Place(fraTopTen, {120, 120, 4335, 4135});
+    lblNameLbl = NewLabel(fraTopTen, {600, 180, 1335, 255}, "Player:");
+    lblScoreLbl = NewLabel(fraTopTen, {1920, 180, 615, 255}, "Score:", Align::Centre);
+    blbDateLbl = NewLabel(fraTopTen, {2760, 180, 1455, 255}, "Date:");
     for (Label* heading : {lblNameLbl, lblScoreLbl, blbDateLbl})
         SetBold(heading);
-    new Line(fraTopTen, 60, 450, 4260, 450, Look::InactiveTitleBar);   // Line1
-    new Line(fraTopTen, 60, 465, 4260, 465, Look::WindowBackground);   // Line2
+    auto* line1 = new Line(fraTopTen, 60, 450, 4260, 450, Look::InactiveTitleBar);
+    auto* line2 = new Line(fraTopTen, 60, 465, 4260, 465, Look::WindowBackground);
     for (int i = 0; i < HighScoreRows; ++i) {
-        lblNumbers[i] = NewLabel(fraTopTen, 120, RowTops[i], 255, 255, QString("%1.").arg(i + 1));
-        lblPlayerName[i] = NewLabel(fraTopTen, 600, RowTops[i], 1335, 255, "");
-        lblScore[i] = NewLabel(fraTopTen, 1920, RowTops[i], 495, 255, "", Qt::AlignRight);
-        lblDate[i] = NewLabel(fraTopTen, 2760, RowTops[i], 1455, 255, "");
+        lblNumbers[i] = NewLabel(fraTopTen, {120, RowTops[i], 255, 255}, QString("%1.").arg(i + 1));
+        lblPlayerName[i] = NewLabel(fraTopTen, {600, RowTops[i], 1335, 255});
+        lblScore[i] = NewLabel(fraTopTen, {1920, RowTops[i], 495, 255}, {}, Align::Right);
+        lblDate[i] = NewLabel(fraTopTen, {2760, RowTops[i], 1455, 255});
     }
 
     cmdOK = new QPushButton("OK", this);
-    cmdOK->setGeometry(TwipsRect(3120, 4365, 1335, 375));
+    Place(cmdOK, {3120, 4365, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);   // cmdOK_Click
+    SetNames({{fraTopTen, "fraTopTen"}, {lblNameLbl, "lblNameLbl"}, {lblScoreLbl, "lblScoreLbl"},
+              {blbDateLbl, "blbDateLbl"}, {line1, "Line1"}, {line2, "Line2"}, {cmdOK, "cmdOK"}});
+    for (auto [array, name] : {std::pair{&lblNumbers, "lblNumbers"}, {&lblPlayerName, "lblPlayerName"},
+                               {&lblScore, "lblScore"}, {&lblDate, "lblDate"}})
+        SetArrayName(*array, name);
 
     loaded_ = Form_Load();
 }

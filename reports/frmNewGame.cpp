@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "ControlNames.h"
 #include "QtServices.h"
 #include "modGlobalVars.h"
 
@@ -11,13 +12,12 @@ frmNewGame::frmNewGame(QWidget* owner)
     : DialogWindow(owner, " Zarvo - New Game", 3015, 1110, TitleBar::NoCloseBox, false)
 {
     cmdYes = new QPushButton("&Yes", this);   // first in the tab order
-    cmdYes->setGeometry(TwipsRect(120, 600, 1335, 375));
+    Place(cmdYes, {120, 600, 1335, 375});
     cmdYes->setDefault(true);
     cmdNo = new QPushButton("&No", this);
-    cmdNo->setGeometry(TwipsRect(1560, 600, 1335, 375));
-    lblAnother = new Label(this, Qt::AlignHCenter);
-    lblAnother->setGeometry(TwipsRect(120, 240, 2775, 375));
-    lblAnother->SetCaption("Play another game?");
+    Place(cmdNo, {1560, 600, 1335, 375});
+    lblAnother = NewLabel(this, {120, 240, 2775, 375}, "Play another game?", Align::Centre);
+    SetNames({{cmdYes, "cmdYes"}, {cmdNo, "cmdNo"}, {lblAnother, "lblAnother"}});
 
     connect(cmdYes, &QPushButton::clicked, this, [this] {
         gNewGameChoice = 1;

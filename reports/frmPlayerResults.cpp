@@ -2,52 +2,50 @@
 
 #include <QPushButton>
 
+#include "ControlNames.h"
 #include "Look.h"
 #include "PlayerStatistics.h"
 #include "QtServices.h"
-#include "Twips.h"
 #include "modGlobalVars.h"
 
 namespace {
-constexpr int LabelHeight = 255;
 // Without the all-time figures their line goes, and everything below it moves up.
 constexpr int AllTimeLine = 240;
-
-// A label of one line.
-Label* NewLabel(QWidget* parent, int left, int top, int width, const QString& caption = {},
-                Qt::Alignment alignment = Qt::AlignLeft)
-{
-    return ::NewLabel(parent, left, top, width, LabelHeight, caption, alignment);
-}
 }
 
 frmPlayerResults::frmPlayerResults(QWidget* owner)
     : DialogWindow(owner, "Zarvo - Results", 3855, 2640, TitleBar::CloseBox, true)
 {
     cmdOK = new QPushButton("OK", this);   // created first: first in the tab order
-    cmdOK->setGeometry(TwipsRect(2400, 2160, 1335, 375));
+    Place(cmdOK, {2400, 2160, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
-    lblScored = NewLabel(this, 240, 180, 3375, {}, Qt::AlignHCenter);
+    lblScored = NewLabel(this, {240, 180, 3375, 255}, {}, Align::Centre);
     lblScored->setFont(Look::CaptionFont());
     SetBold(lblScored);
 
     fraCurrentSession = new Frame(this);
-    fraCurrentSession->setGeometry(TwipsRect(120, 600, 3615, 1455));
+    Place(fraCurrentSession, {120, 600, 3615, 1455});
     QWidget* frame = fraCurrentSession;
-    lblCurrentHighLbl = NewLabel(frame, 1080, 300, 735, "High", Qt::AlignHCenter);
-    lblCurrentLowLbl = NewLabel(frame, 1920, 300, 735, "Low", Qt::AlignHCenter);
-    lblCurrentAvgLbl = NewLabel(frame, 2760, 300, 735, "Average", Qt::AlignHCenter);
-    lblSession = NewLabel(frame, 120, 600, 735, "Session:");
-    lblCurrentHigh = NewLabel(frame, 1080, 600, 735, {}, Qt::AlignHCenter);
-    lblCurrentLow = NewLabel(frame, 1920, 600, 735, {}, Qt::AlignHCenter);
-    lblCurrentAvg = NewLabel(frame, 2760, 600, 735, {}, Qt::AlignHCenter);
-    lblAll = NewLabel(frame, 120, 840, 735, "All-time:");
-    lblAllHigh = NewLabel(frame, 1080, 840, 735, {}, Qt::AlignHCenter);
-    lblAllLow = NewLabel(frame, 1920, 840, 735, {}, Qt::AlignHCenter);
-    lblAllAvg = NewLabel(frame, 2760, 840, 735, {}, Qt::AlignHCenter);
-    lblCurrentInfo = NewLabel(frame, 120, 1200, 3375, {}, Qt::AlignHCenter);   // transparent
+    lblCurrentHighLbl = NewLabel(frame, {1080, 300, 735, 255}, "High", Align::Centre);
+    lblCurrentLowLbl = NewLabel(frame, {1920, 300, 735, 255}, "Low", Align::Centre);
+    lblCurrentAvgLbl = NewLabel(frame, {2760, 300, 735, 255}, "Average", Align::Centre);
+    lblSession = NewLabel(frame, {120, 600, 735, 255}, "Session:");
+    lblCurrentHigh = NewLabel(frame, {1080, 600, 735, 255}, {}, Align::Centre);
+    lblCurrentLow = NewLabel(frame, {1920, 600, 735, 255}, {}, Align::Centre);
+    lblCurrentAvg = NewLabel(frame, {2760, 600, 735, 255}, {}, Align::Centre);
+    lblAll = NewLabel(frame, {120, 840, 735, 255}, "All-time:");
+    lblAllHigh = NewLabel(frame, {1080, 840, 735, 255}, {}, Align::Centre);
+    lblAllLow = NewLabel(frame, {1920, 840, 735, 255}, {}, Align::Centre);
+    lblAllAvg = NewLabel(frame, {2760, 840, 735, 255}, {}, Align::Centre);
+    lblCurrentInfo = NewLabel(frame, {120, 1200, 3375, 255}, {}, Align::Centre);   // transparent
+    SetNames({{cmdOK, "cmdOK"}, {lblScored, "lblScored"}, {fraCurrentSession, "fraCurrentSession"},
+              {lblCurrentHighLbl, "lblCurrentHighLbl"}, {lblCurrentLowLbl, "lblCurrentLowLbl"},
+              {lblCurrentAvgLbl, "lblCurrentAvgLbl"}, {lblSession, "lblSession"}, {lblCurrentHigh, "lblCurrentHigh"},
+              {lblCurrentLow, "lblCurrentLow"}, {lblCurrentAvg, "lblCurrentAvg"}, {lblAll, "lblAll"},
+              {lblAllHigh, "lblAllHigh"}, {lblAllLow, "lblAllLow"}, {lblAllAvg, "lblAllAvg"},
+              {lblCurrentInfo, "lblCurrentInfo"}});
 }
 
 void frmPlayerResults::ShowValues()
@@ -75,7 +73,7 @@ void frmPlayerResults::ShowValues()
     for (Label* label : {lblAll, lblAllHigh, lblAllLow, lblAllAvg})
         label->hide();
     AddToTop(lblCurrentInfo, -AllTimeLine);
-    fraCurrentSession->resize(fraCurrentSession->width(), fraCurrentSession->height() - TwipsToPixels(AllTimeLine));
+    AddToHeight(fraCurrentSession, -AllTimeLine);
     AddToTop(cmdOK, -AllTimeLine);
     SetClientHeight(ClientHeight() - AllTimeLine);
 }

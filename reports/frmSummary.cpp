@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <vector>
 
+#include "ControlNames.h"
 #include "Look.h"
 #include "NumberText.h"
 #include "QtServices.h"
@@ -13,13 +14,7 @@
 
 namespace {
 constexpr int GridWidth = 4575, GridHeight = 3585;   // the client area for eight players
-constexpr int LabelHeight = 255, FirstRowTop = 600, RowHeight = 240;
-
-// A label of one line.
-Label* NewLabel(QWidget* parent, int left, int top, int width, Qt::Alignment alignment, const QString& caption = {})
-{
-    return ::NewLabel(parent, left, top, width, LabelHeight, caption, alignment);
-}
+constexpr int FirstRowTop = 600, RowHeight = 240;
 
 // Numbers keep the leading blank of Str; on the right-aligned labels it falls on the left, unseen.
 QString Number(int value) { return QString::fromStdString(Str(value)); }
@@ -29,32 +24,39 @@ frmSummary::frmSummary(QWidget* owner)
     : DialogWindow(owner, "Zarvo - Scoring Summary", GridWidth, GridHeight, TitleBar::CloseBox, true)
 {
     cmdOK = new QPushButton("OK", this);
-    cmdOK->setGeometry(TwipsRect(3120, 3120, 1335, 375));
+    Place(cmdOK, {3120, 3120, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
     for (int i = 0; i < MaxPlayers; ++i) {
         const int top = FirstRowTop + RowHeight * i;
-        lblName[i] = NewLabel(this, 240, top, 975, Qt::AlignLeft);
-        lblLeft[i] = NewLabel(this, 1440, top, 375, Qt::AlignRight);
-        lblRight[i] = NewLabel(this, 2040, top, 375, Qt::AlignRight);
-        lblBonus[i] = NewLabel(this, 2640, top, 375, Qt::AlignRight);
-        lblTotal[i] = NewLabel(this, 3240, top, 375, Qt::AlignRight);
-        lblZarvos[i] = NewLabel(this, 3900, top, 375, Qt::AlignRight);
+        lblName[i] = NewLabel(this, {240, top, 975, 255});
+        lblLeft[i] = NewLabel(this, {1440, top, 375, 255}, {}, Align::Right);
+        lblRight[i] = NewLabel(this, {2040, top, 375, 255}, {}, Align::Right);
+        lblBonus[i] = NewLabel(this, {2640, top, 375, 255}, {}, Align::Right);
+        lblTotal[i] = NewLabel(this, {3240, top, 375, 255}, {}, Align::Right);
+        lblZarvos[i] = NewLabel(this, {3900, top, 375, 255}, {}, Align::Right);
     }
-    lblPlayerLbl = NewLabel(this, 240, 195, 1095, Qt::AlignLeft, "Player:");
-    lblLeftLbl = NewLabel(this, 1440, 195, 375, Qt::AlignHCenter, "Left:");
-    lblRightLbl = NewLabel(this, 1920, 195, 615, Qt::AlignHCenter, "Right:");
-    lblBonusLbl = NewLabel(this, 2520, 195, 615, Qt::AlignHCenter, "Bonus:");
-    lblTotalLbl = NewLabel(this, 3120, 195, 615, Qt::AlignHCenter, "Total:");
-    lblZarvoLbl = NewLabel(this, 3840, 195, 615, Qt::AlignLeft, "Zarvos:");
-    lblTotals = NewLabel(this, 240, 2700, 975, Qt::AlignLeft, "Totals:");
-    lblTotalLeft = NewLabel(this, 1320, 2700, 495, Qt::AlignRight);
-    lblTotalRight = NewLabel(this, 1920, 2700, 495, Qt::AlignRight);
-    lblTotalBonus = NewLabel(this, 2520, 2700, 495, Qt::AlignRight);
-    lblTotalTotal = NewLabel(this, 3120, 2700, 495, Qt::AlignRight);
-    lblTotalZarvos = NewLabel(this, 3900, 2700, 375, Qt::AlignRight);
-
+    for (auto [array, name] : {std::pair{&lblName, "lblName"}, {&lblLeft, "lblLeft"}, {&lblRight, "lblRight"},
+                               {&lblBonus, "lblBonus"}, {&lblTotal, "lblTotal"}, {&lblZarvos, "lblZarvos"}})
+        SetArrayName(*array, name);
+    lblPlayerLbl = NewLabel(this, {240, 195, 1095, 255}, "Player:");
+    lblLeftLbl = NewLabel(this, {1440, 195, 375, 255}, "Left:", Align::Centre);
+    lblRightLbl = NewLabel(this, {1920, 195, 615, 255}, "Right:", Align::Centre);
+    lblBonusLbl = NewLabel(this, {2520, 195, 615, 255}, "Bonus:", Align::Centre);
+    lblTotalLbl = NewLabel(this, {3120, 195, 615, 255}, "Total:", Align::Centre);
+    lblZarvoLbl = NewLabel(this, {3840, 195, 615, 255}, "Zarvos:");
+    lblTotals = NewLabel(this, {240, 2700, 975, 255}, "Totals:");
+    lblTotalLeft = NewLabel(this, {1320, 2700, 495, 255}, {}, Align::Right);
+    lblTotalRight = NewLabel(this, {1920, 2700, 495, 255}, {}, Align::Right);
+    lblTotalBonus = NewLabel(this, {2520, 2700, 495, 255}, {}, Align::Right);
+    lblTotalTotal = NewLabel(this, {3120, 2700, 495, 255}, {}, Align::Right);
+    lblTotalZarvos = NewLabel(this, {3900, 2700, 375, 255}, {}, Align::Right);
+    SetNames({{cmdOK, "cmdOK"}, {lblPlayerLbl, "lblPlayerLbl"}, {lblLeftLbl, "lblLeftLbl"},
+              {lblRightLbl, "lblRightLbl"}, {lblBonusLbl, "lblBonusLbl"}, {lblTotalLbl, "lblTotalLbl"},
+              {lblZarvoLbl, "lblZarvoLbl"}, {lblTotals, "lblTotals"}, {lblTotalLeft, "lblTotalLeft"},
+              {lblTotalRight, "lblTotalRight"}, {lblTotalBonus, "lblTotalBonus"}, {lblTotalTotal, "lblTotalTotal"},
+              {lblTotalZarvos, "lblTotalZarvos"}});
     ArrangeSummaryGrid();
     FillSummaryGrid();
 }
@@ -86,20 +88,25 @@ void frmSummary::ArrangeSummaryGrid()
 // They lie under the labels, as lines drawn on the window itself do.
 void frmSummary::DrawGridLines(int shift)
 {
-    struct Ends { int x1, y1, x2, y2; };
+    struct Ends { QString name; int x1, y1, x2, y2; };
     const int bottom = 3000 + shift, under = 2580 + shift;
     std::vector<std::pair<Ends, Ends>> pairs = {
-        {{105, 105, 4455, 105}, {120, 120, 4455, 120}},               // Line21, Line16
-        {{120, 480, 4440, 480}, {120, 495, 4440, 495}},               // Line1, Line7
-        {{120, under, 4440, under}, {120, under + 15, 4440, under + 15}},      // linBottom(0), (1)
-        {{120, bottom, 4440, bottom}, {120, bottom + 15, 4440, bottom + 15}},  // linBottom(2), (3)
-        {{105, 105, 105, bottom + 15}, {120, 120, 120, bottom + 15}},           // linVert(0), (1)
+        {{"Line21", 105, 105, 4455, 105}, {"Line16", 120, 120, 4455, 120}},
+        {{"Line1", 120, 480, 4440, 480}, {"Line7", 120, 495, 4440, 495}},
+        {{"linBottom(0)", 120, under, 4440, under}, {"linBottom(1)", 120, under + 15, 4440, under + 15}},
+        {{"linBottom(2)", 120, bottom, 4440, bottom}, {"linBottom(3)", 120, bottom + 15, 4440, bottom + 15}},
+        {{"linVert(0)", 105, 105, 105, bottom + 15}, {"linVert(1)", 120, 120, 120, bottom + 15}},
     };
-    for (int x : {1320, 1920, 2520, 3120, 3720, 4440})   // linVert(2) to (13)
-        pairs.push_back({{x, 120, x, bottom}, {x + 15, 120, x + 15, bottom + 15}});
+    const int columns[] = {1320, 1920, 2520, 3120, 3720, 4440};   // linVert(2) to (13)
+    for (int k = 0; k < 6; ++k)
+        pairs.push_back({{QString("linVert(%1)").arg(2 + 2 * k), columns[k], 120, columns[k], bottom},
+                         {QString("linVert(%1)").arg(3 + 2 * k), columns[k] + 15, 120, columns[k] + 15, bottom + 15}});
     for (const auto& [dark, light] : pairs) {
-        (new Line(this, dark.x1, dark.y1, dark.x2, dark.y2, Look::InactiveTitleBar))->lower();
-        (new Line(this, light.x1, light.y1, light.x2, light.y2, Look::WindowBackground))->lower();
+        for (const auto& [ends, colour] : {std::pair{dark, Look::InactiveTitleBar}, {light, Look::WindowBackground}}) {
+            auto* line = new Line(this, ends.x1, ends.y1, ends.x2, ends.y2, colour);
+            line->setObjectName(ends.name);
+            line->lower();
+        }
     }
 }
 

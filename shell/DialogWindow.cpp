@@ -7,7 +7,7 @@
 
 DialogWindow::DialogWindow(QWidget* owner, const QString& caption, int clientWidth, int clientHeight,
                            TitleBar titleBar, bool programIcon)
-    : QDialog(owner), titleBar_(titleBar)
+    : QDialog(owner), titleBar_(titleBar), clientWidth_(clientWidth), clientHeight_(clientHeight)
 {
     Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     if (titleBar == TitleBar::CloseBox)
@@ -24,9 +24,11 @@ DialogWindow::DialogWindow(QWidget* owner, const QString& caption, int clientWid
     setFixedSize(TwipsToPixels(clientWidth), TwipsToPixels(clientHeight));
 }
 
-int DialogWindow::ClientHeight() const { return PixelsToTwips(height()); }
-
-void DialogWindow::SetClientHeight(int twips) { setFixedHeight(TwipsToPixels(twips)); }
+void DialogWindow::SetClientHeight(int twips)
+{
+    clientHeight_ = twips;
+    setFixedHeight(TwipsToPixels(twips));
+}
 
 void DialogWindow::CentreOnOwner()
 {

@@ -15,7 +15,8 @@ public:
                  TitleBar titleBar, bool programIcon);
 
     // The client area, in twips; growing or shrinking it keeps it fixed for the user.
-    int ClientHeight() const;
+    int ClientWidth() const { return clientWidth_; }
+    int ClientHeight() const { return clientHeight_; }
     void SetClientHeight(int twips);
 
     // Centred on its owner, by the outer edges of both windows.
@@ -29,4 +30,5 @@ protected:
 
 private:
     TitleBar titleBar_;
+    int clientWidth_, clientHeight_;
 };

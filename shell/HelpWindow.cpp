@@ -9,6 +9,7 @@
 #include <QHelpSearchResultWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -58,6 +59,9 @@ HelpWindow::HelpWindow(const QString& helpFile) : helpFile_(helpFile), collectio
         if (page_->source().isEmpty())
             ShowContentsPage();
     });
+
+    // F1 in the viewer itself asks for the contents too, as it does in the game.
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &HelpWindow::ShowFinder);
 
     if (!collection_.Registered())
         page_->setPlainText("There is no help to show: the help file \"" + helpFile + "\" could not be read.");
@@ -118,8 +122,7 @@ void HelpWindow::ShowContentsPage()
 void HelpWindow::ShowFinder()
 {
     finder_->setCurrentIndex(0);
-    if (page_->source().isEmpty())
-        ShowContentsPage();
+    ShowContentsPage();
     show();
     raise();
     activateWindow();

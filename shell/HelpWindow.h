@@ -16,8 +16,8 @@ public:
     ~HelpWindow() override;
 
     QString HelpFile() const { return helpFile_; }
-    // Brings the window up with the contents in front; the first page of the contents shows
-    // unless another page is already being read.
+    // Brings the window up with the contents in front and their first page shown, whatever
+    // page was read before.
     void ShowFinder();
 
 private:

@@ -5,9 +5,20 @@
 
 #include "Accessible.h"
 #include "QtServices.h"
-#include "Twips.h"
 
-Label::Label(QWidget* parent, Qt::Alignment alignment) : QWidget(parent), alignment_(alignment) {}
+namespace {
+Qt::Alignment Horizontal(Align alignment)
+{
+    switch (alignment) {
+    case Align::Centre: return Qt::AlignHCenter;
+    case Align::Right: return Qt::AlignRight;
+    case Align::Left: break;
+    }
+    return Qt::AlignLeft;
+}
+}
+
+Label::Label(QWidget* parent, Align alignment) : QWidget(parent), alignment_(alignment) {}
 
 void Label::SetCaption(const QString& caption)
 {
@@ -41,7 +52,7 @@ void Label::paintEvent(QPaintEvent*)
     if (!caption_.isEmpty()) {
         painter.setPen(foreColor_);
         painter.setFont(font());
-        painter.drawText(textArea, int(alignment_ | Qt::AlignTop | Qt::TextWordWrap), caption_);
+        painter.drawText(textArea, int(Horizontal(alignment_) | Qt::AlignTop | Qt::TextWordWrap), caption_);
     }
 }
 
@@ -68,11 +79,10 @@ void Label::mouseReleaseEvent(QMouseEvent* event)
         emit Click();
 }
 
-Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
-                Qt::Alignment alignment)
+Label* NewLabel(QWidget* parent, TwipRect place, const QString& caption, Align alignment)
 {
     auto* label = new Label(parent, alignment);
-    label->setGeometry(TwipsRect(left, top, width, height));
+    Place(label, place);
     label->SetCaption(caption);
     return label;
 }
@@ -84,9 +94,8 @@ void SetBold(QWidget* widget)
     widget->setFont(font);
 }
 
-void AddToTop(QWidget* widget, int twips) { widget->move(widget->x(), widget->y() + TwipsToPixels(twips)); }
-
-Line::Line(QWidget* parent, int x1, int y1, int x2, int y2, const QColor& color) : QWidget(parent)
+Line::Line(QWidget* parent, int x1, int y1, int x2, int y2, const QColor& color)
+    : QWidget(parent), x1_(x1), y1_(y1), x2_(x2), y2_(y2)
 {
     const int left = TwipsToPixels(std::min(x1, x2));
     const int top = TwipsToPixels(std::min(y1, y2));

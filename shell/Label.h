@@ -5,10 +5,18 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include "Twips.h"
+
+// Where a caption stands across its label. An enum class of its own, so that it never passes
+// for a number (or a number for it) in a call.
+enum class Align { Left, Centre, Right };
+
 class Label : public QWidget {
     Q_OBJECT
 public:
-    explicit Label(QWidget* parent, Qt::Alignment alignment = Qt::AlignLeft);
+    Label(QWidget* parent, Align alignment);
+
+    Align Alignment() const { return alignment_; }
 
     QString Caption() const { return caption_; }
     void SetCaption(const QString& caption);
@@ -34,7 +42,7 @@ protected:
 
 private:
     QString caption_;
-    Qt::Alignment alignment_;
+    Align alignment_;
     int borderStyle_ = 0;
     int backStyle_ = 0;
     QColor backColor_;
@@ -43,16 +51,22 @@ private:
     bool leftPressed_ = false;
 };
 
-// A label at its twip rectangle in `parent`, with its caption.
-Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
-                Qt::Alignment alignment = Qt::AlignLeft);
+// The one way to make a label: at its twip rectangle in `parent`, with its caption.
+Label* NewLabel(QWidget* parent, TwipRect place, const QString& caption = {}, Align alignment = Align::Left);
 // The widget's own font, made bold.
 void SetBold(QWidget* widget);
-// Moves a control down by `twips` (up when negative), as a change of its Top.
-void AddToTop(QWidget* widget, int twips);
 
 // A straight line of one pixel, from (x1, y1) to (x2, y2) in twips of its parent.
 class Line : public QWidget {
 public:
     Line(QWidget* parent, int x1, int y1, int x2, int y2, const QColor& color);
+
+    // Its ends, in twips.
+    int X1() const { return x1_; }
+    int Y1() const { return y1_; }
+    int X2() const { return x2_; }
+    int Y2() const { return y2_; }
+
+private:
+    int x1_, y1_, x2_, y2_;
 };

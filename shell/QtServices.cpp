@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
 
 #include "Accessible.h"
 #include "AppPath.h"
@@ -13,9 +14,41 @@
 #include "MsgBox.h"
 #include "Twips.h"
 
-QRect TwipsRect(int left, int top, int width, int height)
+namespace {
+constexpr const char* TwipsProperty = "twips";
+}
+
+void Place(QWidget* control, TwipRect place)
 {
-    return QRect(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+    control->setProperty(TwipsProperty, QRect(place.left, place.top, place.width, place.height));
+    control->setGeometry(TwipsToPixels(place.left), TwipsToPixels(place.top), TwipsToPixels(place.width),
+                         TwipsToPixels(place.height));
+}
+
+TwipRect PlaceOf(const QWidget* control)
+{
+    const QVariant twips = control->property(TwipsProperty);
+    if (!twips.isValid()) {
+        const QRect pixels = control->geometry();
+        return {PixelsToTwips(pixels.x()), PixelsToTwips(pixels.y()), PixelsToTwips(pixels.width()),
+                PixelsToTwips(pixels.height())};
+    }
+    const QRect r = twips.toRect();
+    return {r.x(), r.y(), r.width(), r.height()};
+}
+
+void AddToTop(QWidget* control, int twips)
+{
+    TwipRect place = PlaceOf(control);
+    place.top += twips;
+    Place(control, place);
+}
+
+void AddToHeight(QWidget* control, int twips)
+{
+    TwipRect place = PlaceOf(control);
+    place.height += twips;
+    Place(control, place);
 }
 
 int QtMsgBox(const std::string& text, int style, const std::string& title)

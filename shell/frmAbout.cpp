@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <qdrawutil.h>
 
+#include "ControlNames.h"
 #include "Label.h"
 #include "Look.h"
 #include "QtServices.h"
@@ -15,14 +16,6 @@ namespace {
 constexpr int AboutWidth = 4065, AboutHeight = 2295;
 // A fixed dialog frame: a raised two-pixel bevel and one pixel of face colour inside it.
 constexpr int BorderPixels = 3;
-
-Label* NewLabel(QWidget* parent, int left, int top, int width, int height, const QString& caption,
-                const QFont& font)
-{
-    Label* label = ::NewLabel(parent, left, top, width, height, caption, Qt::AlignHCenter);
-    label->setFont(font);
-    return label;
-}
 }
 
 frmAbout::frmAbout(QWidget* owner)
@@ -33,8 +26,7 @@ frmAbout::frmAbout(QWidget* owner)
     auto* client = new QWidget(this);
     client->setGeometry(BorderPixels, BorderPixels, TwipsToPixels(AboutWidth), TwipsToPixels(AboutHeight));
 
-    imgMain = new Label(client);
-    imgMain->setGeometry(TwipsRect(120, 120, 2190, 1755));
+    imgMain = NewLabel(client, {120, 120, 2190, 1755});
     // Stretched to its rectangle, at the screen's pixel density.
     const qreal ratio = devicePixelRatioF();
     QPixmap art = QPixmap::fromImage(DrawTitleArt().scaled(imgMain->size() * ratio, Qt::IgnoreAspectRatio,
@@ -43,21 +35,24 @@ frmAbout::frmAbout(QWidget* owner)
     imgMain->SetPicture(art);
 
     picTitle = new QWidget(client);
-    picTitle->setGeometry(TwipsRect(2400, 120, 1575, 655));
-    lblTitle = NewLabel(picTitle, 0, 0, 1095, 375, "Zarvo", Look::TitleFont());
-    lblVersion = new Label(picTitle);
-    lblVersion->setGeometry(TwipsRect(600, 360, 855, 255));
-    lblVersion->SetCaption(QString("Version ") + ZarvoVersion);
+    Place(picTitle, {2400, 120, 1575, 655});
+    lblTitle = NewLabel(picTitle, {0, 0, 1095, 375}, "Zarvo", Align::Centre);
+    lblTitle->setFont(Look::TitleFont());
+    lblVersion = NewLabel(picTitle, {600, 360, 855, 255}, QString("Version ") + ZarvoVersion);
 
-    lblInfo = NewLabel(client, 2520, 840, 1335, 855, "Five dice and a score card for one to eight players.",
-                       Look::SmallSerifFont());
-    lblProgrammer = NewLabel(client, 60, 1920, 2295, 375, "Written for the fun of it by the Zarvo developers.",
-                             Look::SmallSerifFont());
+    lblInfo = NewLabel(client, {2520, 840, 1335, 855}, "Five dice and a score card for one to eight players.",
+                       Align::Centre);
+    lblProgrammer = NewLabel(client, {60, 1920, 2295, 375}, "Written for the fun of it by the Zarvo developers.",
+                             Align::Centre);
+    for (Label* credit : {lblInfo, lblProgrammer})
+        credit->setFont(Look::SmallSerifFont());
 
     cmdOK = new QPushButton("OK", client);
-    cmdOK->setGeometry(TwipsRect(2520, 1800, 1335, 375));
+    Place(cmdOK, {2520, 1800, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    SetNames({{imgMain, "imgMain"}, {picTitle, "picTitle"}, {lblTitle, "lblTitle"}, {lblVersion, "lblVersion"},
+              {lblInfo, "lblInfo"}, {lblProgrammer, "lblProgrammer"}, {cmdOK, "cmdOK"}});
     CentreOnOwner();
 }
 

@@ -14,6 +14,7 @@
 
 #include "Accessible.h"
 #include "AppPath.h"
+#include "ControlNames.h"
 #include "DieFaces.h"
 #include "Look.h"
 #include "frmAbout.h"
@@ -57,7 +58,7 @@ frmMain::frmMain()
     setCentralWidget(client);
 
     cmdRoll = new QPushButton("Roll", client);   // created first: first in the tab order
-    cmdRoll->setGeometry(TwipsRect(3120, 4080, 1335, 375));
+    Place(cmdRoll, {3120, 4080, 1335, 375});
     cmdRoll->setToolTip("Roll or accept roll.");
     cmdRoll->setDefault(true);
     connect(cmdRoll, &QPushButton::clicked, this, [this] {
@@ -66,7 +67,7 @@ frmMain::frmMain()
     });
 
     picDisplayer = new QFrame(client);
-    picDisplayer->setGeometry(TwipsRect(150, 120, 4275, 1755));
+    Place(picDisplayer, {150, 120, 4275, 1755});
     picDisplayer->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     picDisplayer->setLineWidth(PanelBorderPixels);
     picDisplayer->setAccessibleName("Dice");
@@ -76,9 +77,10 @@ frmMain::frmMain()
     CreateDiceField(field);
 
     fraScoreboard = new Frame(client);
-    fraScoreboard->setGeometry(TwipsRect(120, 1920, 4335, 2055));
+    Place(fraScoreboard, {120, 1920, 4335, 2055});
     CreateScoreboard();
     CreateMenu();
+    SetNames({{cmdRoll, "cmdRoll"}, {picDisplayer, "picDisplayer"}, {fraScoreboard, "fraScoreboard"}});
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     layout()->activate();   // fixes the size now, not at the first show
 
@@ -126,22 +128,22 @@ void frmMain::CreateDiceField(QWidget* field)
 {
     // Created from the bottom of the stacking order up: the words, the click zones, the two
     // prompts, then the dice above everything.
-    new Line(field, 120, 855, 4080, 855, Look::WindowBackground);   // Line8
-    new Line(field, 120, 840, 4080, 840, Look::InactiveTitleBar);   // Line7
+    (new Line(field, 120, 855, 4080, 855, Look::WindowBackground))->setObjectName("Line8");
+    (new Line(field, 120, 840, 4080, 840, Look::InactiveTitleBar))->setObjectName("Line7");
     for (int i = 0; i < 5; ++i) {
-        lblKeep[i] = NewLabel(field, 240 + 840 * i, 960, 375, 255, "Keep", Qt::AlignHCenter);
-        lblRoll[i] = NewLabel(field, 240 + 840 * i, 540, 375, 255, "Roll", Qt::AlignHCenter);
+        lblKeep[i] = NewLabel(field, {240 + 840 * i, 960, 375, 255}, "Keep", Align::Centre);
+        lblRoll[i] = NewLabel(field, {240 + 840 * i, 540, 375, 255}, "Roll", Align::Centre);
     }
     for (int i = 0; i < 5; ++i) {
-        lblDie[i] = NewLabel(field, 840 * i, 0, 855, 1695, "");
+        lblDie[i] = NewLabel(field, {840 * i, 0, 855, 1695});
         lblDie[i]->setAccessibleName(QString("Column of die %1").arg(i + 1));
         connect(lblDie[i], &Label::MouseUp, this, [this, i](int button) {
             logic_.lblDie_MouseUp(i, button);
             WakeRollTimer();
         });
     }
-    lblPleaseRoll = NewLabel(field, 240, 360, 3735, 255, "", Qt::AlignHCenter);
-    lblSelectCategory = NewLabel(field, 240, 1320, 3735, 255, "Please select a scoring category.", Qt::AlignHCenter);
+    lblPleaseRoll = NewLabel(field, {240, 360, 3735, 255}, {}, Align::Centre);
+    lblSelectCategory = NewLabel(field, {240, 1320, 3735, 255}, "Please select a scoring category.", Align::Centre);
     for (Label* prompt : {lblPleaseRoll, lblSelectCategory}) {
         prompt->setFont(Look::CaptionFont());
         // Only words: a click on them belongs to the die column below.
@@ -149,7 +151,7 @@ void frmMain::CreateDiceField(QWidget* field)
         prompt->hide();
     }
     for (int i = 0; i < 5; ++i) {
-        imgDie[i] = NewLabel(field, DieColumnLeft(i), KeepRow, 615, 615, "");
+        imgDie[i] = NewLabel(field, {DieColumnLeft(i), KeepRow, 615, 615});
         imgDie[i]->SetPicture(ilsDie[i + 1]);
         NameDie(i);
         connect(imgDie[i], &Label::MouseUp, this, [this, i](int button) {
@@ -159,56 +161,68 @@ void frmMain::CreateDiceField(QWidget* field)
     }
     imgDie[2]->raise();   // on the pile, die 2 is the one seen
     SetDieLabelsVisible(false);
+    for (auto [array, name] : {std::pair{&imgDie, "imgDie"}, {&lblDie, "lblDie"}, {&lblRoll, "lblRoll"},
+                               {&lblKeep, "lblKeep"}})
+        SetArrayName(*array, name);
+    SetNames({{lblPleaseRoll, "lblPleaseRoll"}, {lblSelectCategory, "lblSelectCategory"}});
 }
 
 void frmMain::CreateScoreboard()
 {
     QWidget* frame = fraScoreboard;
-    struct Row { int left, top, width; const char* caption; const char* tip; };
+    struct Row { const char* name; int left, top, width; const char* caption; const char* tip; };
     static const Row names[CategoryCount] = {
-        {120, 270, 615, "Ones....", "Score total of ones showing."},
-        {120, 510, 615, "Twos....", "Score total of twos showing."},
-        {105, 750, 615, "Threes..", "Score total of threes showing."},
-        {120, 990, 615, "Fours....", "Score total of fours showing."},
-        {120, 1230, 615, "Fives....", "Score total of fives showing."},
-        {120, 1470, 615, "Sixes....", "Score total of sixes showing."},
-        {1305, 270, 1215, "Three of a Kind..", "Three of one die type. (Score total of die showing.)"},
-        {1320, 510, 1215, "Four of a Kind....", "Four of one die type. (Score total of die showing.)"},
-        {1320, 750, 1335, "Full House.........", "Two of a kind + three of a kind. (Score 25.)"},
-        {1320, 990, 1215, "Small Straight....", "1-2-3-4, 2-3-4-5, or 3-4-5-6. (Score 30.)"},
-        {1320, 1230, 1215, "Large Straight...", "1-2-3-4-5 or 2-3-4-5-6. (Score 35.)"},
-        {1320, 1470, 1335, "Zarvo................", "Five of one die type. (Score 50.)"},
-        {1320, 1710, 1335, "Chance.............", "Score total of die showing."},
+        {"lblOnes", 120, 270, 615, "Ones....", "Score total of ones showing."},
+        {"lblTwos", 120, 510, 615, "Twos....", "Score total of twos showing."},
+        {"lblThrees", 105, 750, 615, "Threes..", "Score total of threes showing."},
+        {"lblFours", 120, 990, 615, "Fours....", "Score total of fours showing."},
+        {"lblFives", 120, 1230, 615, "Fives....", "Score total of fives showing."},
+        {"lblSixes", 120, 1470, 615, "Sixes....", "Score total of sixes showing."},
+        {"lbl3OfAKindLbl", 1305, 270, 1215, "Three of a Kind..", "Three of one die type. (Score total of die showing.)"},
+        {"lbl4ofAKindLbl", 1320, 510, 1215, "Four of a Kind....", "Four of one die type. (Score total of die showing.)"},
+        {"lblFullHouseLbl", 1320, 750, 1335, "Full House.........", "Two of a kind + three of a kind. (Score 25.)"},
+        {"lblSmallStraightLbl", 1320, 990, 1215, "Small Straight....", "1-2-3-4, 2-3-4-5, or 3-4-5-6. (Score 30.)"},
+        {"lblLargeStraightLbl", 1320, 1230, 1215, "Large Straight...", "1-2-3-4-5 or 2-3-4-5-6. (Score 35.)"},
+        {"lblZarvoLbl", 1320, 1470, 1335, "Zarvo................", "Five of one die type. (Score 50.)"},
+        {"lblChanceLbl", 1320, 1710, 1335, "Chance.............", "Score total of die showing."},
     };
     for (int c = 0; c < CategoryCount; ++c) {
-        lblCategoryNames[c] = NewLabel(frame, names[c].left, names[c].top, names[c].width, 255, names[c].caption);
+        lblCategoryNames[c] = NewLabel(frame, {names[c].left, names[c].top, names[c].width, 255}, names[c].caption);
         lblCategoryNames[c]->setToolTip(names[c].tip);
+        lblCategoryNames[c]->setObjectName(names[c].name);
     }
-    lblLeftLbl = NewLabel(frame, 3120, 510, 615, 255, "Left......");
-    lblRightLbl = NewLabel(frame, 3120, 750, 615, 255, "Right....");
-    lblBonusLbl = NewLabel(frame, 3120, 990, 615, 255, "Bonus..");
-    lblTotalLbl = NewLabel(frame, 3120, 1470, 615, 255, "Total....");
+    lblLeftLbl = NewLabel(frame, {3120, 510, 615, 255}, "Left......");
+    lblRightLbl = NewLabel(frame, {3120, 750, 615, 255}, "Right....");
+    lblBonusLbl = NewLabel(frame, {3120, 990, 615, 255}, "Bonus..");
+    lblTotalLbl = NewLabel(frame, {3120, 1470, 615, 255}, "Total....");
 
     for (int i = 1; i <= 6; ++i) {
-        lblLeft[i] = NewLabel(frame, 720, 270 + 240 * (i - 1), 375, 255, "", Qt::AlignRight);
+        lblLeft[i] = NewLabel(frame, {720, 270 + 240 * (i - 1), 375, 255}, {}, Align::Right);
         connect(lblLeft[i], &Label::Click, this, [this, i] { logic_.lblLeft_Click(i); });
     }
     for (int i = 1; i <= 7; ++i) {
-        lblRight[i] = NewLabel(frame, 2520, 270 + 240 * (i - 1), 375, 255, "", Qt::AlignRight);
+        lblRight[i] = NewLabel(frame, {2520, 270 + 240 * (i - 1), 375, 255}, {}, Align::Right);
         connect(lblRight[i], &Label::Click, this, [this, i] { logic_.lblRight_Click(i); });
     }
-    lblLeftTotal = NewLabel(frame, 3720, 510, 375, 255, "", Qt::AlignRight);
-    lblRightTotal = NewLabel(frame, 3720, 750, 375, 255, "", Qt::AlignRight);
-    lblBonusTotal = NewLabel(frame, 3720, 990, 375, 255, "", Qt::AlignRight);
-    lblTotal = NewLabel(frame, 3720, 1470, 375, 255, "", Qt::AlignRight);
+    lblLeftTotal = NewLabel(frame, {3720, 510, 375, 255}, {}, Align::Right);
+    lblRightTotal = NewLabel(frame, {3720, 750, 375, 255}, {}, Align::Right);
+    lblBonusTotal = NewLabel(frame, {3720, 990, 375, 255}, {}, Align::Right);
+    lblTotal = NewLabel(frame, {3720, 1470, 375, 255}, {}, Align::Right);
+    SetArrayName(lblLeft, "lblLeft");
+    SetArrayName(lblRight, "lblRight");
+    SetNames({{lblLeftLbl, "lblLeftLbl"}, {lblRightLbl, "lblRightLbl"}, {lblBonusLbl, "lblBonusLbl"},
+              {lblTotalLbl, "lblTotalLbl"}, {lblLeftTotal, "lblLeftTotal"}, {lblRightTotal, "lblRightTotal"},
+              {lblBonusTotal, "lblBonusTotal"}, {lblTotal, "lblTotal"}});
 
     // Grooves: a dark line with a light one beside it.
-    new Line(frame, 1200, 240, 1200, 1920, Look::ApplicationWorkspace);   // Line3
-    new Line(frame, 1215, 240, 1215, 1920, Look::TitleBarText);           // Line5
-    new Line(frame, 3000, 240, 3000, 1920, Look::ApplicationWorkspace);   // Line2
-    new Line(frame, 3015, 240, 3015, 1920, Look::WindowBackground);       // Line4
-    new Line(frame, 3120, 1320, 4200, 1320, Look::InactiveTitleBar);      // Line1
-    new Line(frame, 3120, 1335, 4200, 1335, Look::WindowBackground);      // Line6
+    struct Groove { const char* name; int x1, y1, x2, y2; QColor colour; };
+    const Groove grooves[] = {
+        {"Line3", 1200, 240, 1200, 1920, Look::ApplicationWorkspace}, {"Line5", 1215, 240, 1215, 1920, Look::TitleBarText},
+        {"Line2", 3000, 240, 3000, 1920, Look::ApplicationWorkspace}, {"Line4", 3015, 240, 3015, 1920, Look::WindowBackground},
+        {"Line1", 3120, 1320, 4200, 1320, Look::InactiveTitleBar}, {"Line6", 3120, 1335, 4200, 1335, Look::WindowBackground},
+    };
+    for (const Groove& g : grooves)
+        (new Line(frame, g.x1, g.y1, g.x2, g.y2, g.colour))->setObjectName(g.name);
 }
 
 void frmMain::CreateMenu()
@@ -241,6 +255,11 @@ void frmMain::CreateMenu()
     mnuInstructions->setShortcut(Qt::Key_F1);
     mnuHelp->addSeparator();
     mnuAbout = mnuHelp->addAction("&About...");
+    SetNames({{mnuFile, "mnuFile"}, {mnuNewGame, "mnuNewGame"}, {mnuNewPlayers, "mnuNewPlayers"}, {mnuExit, "mnuExit"},
+              {mnuOptions, "mnuOptions"}, {mnuRememberPlayers, "mnuRememberPlayers"}, {mnuUseKeyboard, "mnuUseKeyboard"},
+              {mnuScoringPreview, "mnuScoringPreview"}, {mnuAnimation, "mnuAnimation"},
+              {mnuScoringSummary, "mnuScoringSummary"}, {mnuHighScores, "mnuHighScores"}, {mnuHelp, "mnuHelp"},
+              {mnuInstructions, "mnuInstructions"}, {mnuAbout, "mnuAbout"}});
 
     connect(mnuNewGame, &QAction::triggered, this, [this] { logic_.StartNewGame(); });
     connect(mnuNewPlayers, &QAction::triggered, this, [this] { ShowChangePlayers(); });
@@ -406,16 +425,20 @@ void frmMain::SetDieLabelsVisible(bool visible)
     }
 }
 
-int frmMain::DieLeft(int i) const { return PixelsToTwips(imgDie[i]->x()); }
+int frmMain::DieLeft(int i) const { return PlaceOf(imgDie[i]).left; }
 void frmMain::SetDieLeft(int i, int left)
 {
-    imgDie[i]->move(TwipsToPixels(left), imgDie[i]->y());
+    TwipRect place = PlaceOf(imgDie[i]);
+    place.left = left;
+    Place(imgDie[i], place);
     NameDie(i);
 }
-int frmMain::DieTop(int i) const { return PixelsToTwips(imgDie[i]->y()); }
+int frmMain::DieTop(int i) const { return PlaceOf(imgDie[i]).top; }
 void frmMain::SetDieTop(int i, int top)
 {
-    imgDie[i]->move(imgDie[i]->x(), TwipsToPixels(top));
+    TwipRect place = PlaceOf(imgDie[i]);
+    place.top = top;
+    Place(imgDie[i], place);
     NameDie(i);
 }
 void frmMain::SetDieVisible(int i, bool visible) { imgDie[i]->setVisible(visible); }
@@ -462,11 +485,8 @@ void frmMain::SetCellBorderStyle(int category, int style)
     Cell(category)->SetBorderStyle(style);
     NameCell(category);
 }
-int frmMain::CellTop(int category) const { return PixelsToTwips(Cell(category)->y()); }
-void frmMain::SetCellTop(int category, int top)
-{
-    Cell(category)->move(Cell(category)->x(), TwipsToPixels(top));
-}
+int frmMain::CellTop(int category) const { return PlaceOf(Cell(category)).top; }
+void frmMain::SetCellTop(int category, int top) { AddToTop(Cell(category), top - CellTop(category)); }
 void frmMain::SetCellBackStyle(int category, int style) { Cell(category)->SetBackStyle(style); }
 void frmMain::SetCellBackColor(int category, std::uint32_t rgb) { Cell(category)->SetBackColor(Rgb(rgb)); }
 void frmMain::SetCellForeColor(int category, std::uint32_t rgb)

@@ -63,7 +63,8 @@ TEST(Help, ScoringExamplesAgreeWithTheRules)
     EXPECT_EQ(covered.size(), CategoryCount) << covered.join(", ").toStdString();
 }
 
-// F1 opens the help beside the game at its contents; About: no title bar, centred, controls in place, OK.
+// F1 opens the help beside the game at its contents page, and again after another page was
+// read; About has no title bar, stands centred and closes by OK (its layout is the guard's).
 TEST_F(WindowTest, HelpMenuContentsAndAbout)
 {
     ASSERT_TRUE(QFile::copy(ZARVO_HELP_FILE, dir.filePath("Zarvo.hlp")));
@@ -71,22 +72,27 @@ TEST_F(WindowTest, HelpMenuContentsAndAbout)
     QTest::keyClick(form.get(), Qt::Key_F1);
     HelpWindow* help = nullptr;
     ASSERT_TRUE(QTest::qWaitFor([&] { return (help = dynamic_cast<HelpWindow*>(QApplication::activeWindow())); }));
-    EXPECT_TRUE(!help->isModal() && help->findChild<QHelpContentWidget*>()->isVisible() &&   // contents in front
-                help->findChild<QHelpIndexWidget*>() && help->findChild<QHelpSearchQueryWidget*>());
-    EXPECT_TRUE(QTest::qWaitFor([help] { return help->findChild<QTextBrowser*>()->source().fileName() == "index.html"; }));
+    auto* contents = help->findChild<QHelpContentWidget*>();
+    auto* page = help->findChild<QTextBrowser*>();
+    EXPECT_TRUE(!help->isModal() && contents->isVisible() && help->findChild<QHelpIndexWidget*>() &&
+                help->findChild<QHelpSearchQueryWidget*>());
+    EXPECT_TRUE(QTest::qWaitFor([page] { return page->source().fileName() == "index.html"; }));
+    const QModelIndex other = contents->model()->index(1, 0, contents->model()->index(0, 0));
+    ASSERT_TRUE(other.isValid());
+    emit contents->activated(other);   // a page chosen in the contents
+    ASSERT_NE(page->source().fileName(), "index.html");
+    QTest::keyClick(help, Qt::Key_F1);   // in the viewer, where the page was chosen
+    EXPECT_EQ(page->source().fileName(), "index.html");
+    emit contents->activated(other);
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form.get(), Qt::Key_F1);   // back in the game
+    EXPECT_EQ(page->source().fileName(), "index.html");
 
     AnswerNextModal([this](QWidget* modal) {
         auto* about = dynamic_cast<frmAbout*>(modal);
         EXPECT_TRUE(about->windowFlags().testFlag(Qt::FramelessWindowHint));
         EXPECT_LE((about->frameGeometry().center() - form->frameGeometry().center()).manhattanLength(), 2);
-        EXPECT_EQ(about->imgMain->parentWidget()->size(), TwipsRect(0, 0, 4065, 2295).size());
-        const std::pair<QWidget*, QRect> places[] = {{about->imgMain, TwipsRect(120, 120, 2190, 1755)},
-            {about->picTitle, TwipsRect(2400, 120, 1575, 655)}, {about->lblTitle, TwipsRect(0, 0, 1095, 375)},
-            {about->lblVersion, TwipsRect(600, 360, 855, 255)}, {about->lblInfo, TwipsRect(2520, 840, 1335, 855)},
-            {about->lblProgrammer, TwipsRect(60, 1920, 2295, 375)}, {about->cmdOK, TwipsRect(2520, 1800, 1335, 375)}};
-        for (auto [control, place] : places)
-            EXPECT_EQ(control->geometry(), place);
-        EXPECT_EQ(about->lblVersion->Caption(), "Version 1.0");
         QTest::keyClick(about, Qt::Key_Return);   // OK, the default button
     });
     form->mnuAbout->trigger();
