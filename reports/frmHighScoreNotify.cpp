@@ -34,7 +34,7 @@ frmHighScoreNotify::frmHighScoreNotify(QWidget* owner)
 
     txtName = new QLineEdit(this);
     Place(txtName, {120, 1560, 1215, 285});
-    txtName->setMaxLength(12);
+    LimitCharacters(txtName, 12);
     txtName->setToolTip("Enter your name.");
     txtName->setAccessibleName("Player name");
     FilterTypedKeys(txtName, NameKeyRefused);   // txtName_KeyPress
