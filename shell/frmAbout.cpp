@@ -42,7 +42,7 @@ frmAbout::frmAbout(QWidget* owner)
 
     lblInfo = NewLabel(client, {2520, 840, 1335, 855}, "Five dice and a score card for one to eight players.",
                        Align::Centre);
-    lblProgrammer = NewLabel(client, {60, 1920, 2295, 375}, "Written for the fun of it by the Zarvo developers.",
+    lblProgrammer = NewLabel(client, {60, 1920, 2295, 375}, "Made by the Zarvo developers.",
                              Align::Centre);
     for (Label* credit : {lblInfo, lblProgrammer})
         credit->setFont(Look::SmallSerifFont());

@@ -7,7 +7,7 @@
 #include "GameDialogs.h"
 #include "frmPlayers.h"
 
-// Without a file: the message first, lblNote for Add and Remove, eight seats grown, and Close during a turn
+// Without a file: the message first, lblNote for Add and Remove, and Close during a turn
 // changes nothing. With it: two names typed and added, three seats, and Play takes the seats up to the first
 // free one, enables the summary, clears the sessions and starts a new game.
 TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
@@ -22,14 +22,6 @@ TEST_F(WindowTest, ChangePlayersClosedOrPlayed)
     AnswerNextModal([](QWidget* modal) {
         auto& d = *dynamic_cast<frmPlayers*>(modal);
         EXPECT_TRUE(d.fraAddRemove->isHidden() && !d.lblNote->isHidden());
-        for (int i = 1; i < MaxPlayers; ++i)
-            d.cboPlayer[i]->setCurrentIndex(d.cboPlayer[i]->findText(QString("< Player %1 >").arg(i + 1)));
-        // Six steps of 360 twips below the seats: the dialog's height, the frame's, and the tops under it.
-        const std::pair<QWidget*, QRect> twips[] = {{&d, {d.x() * 15, d.y() * 15, 3615, 4845}},
-            {d.fraCurrentPlayers, {120, 120, 3375, 3255}}, {d.lblNote, {180, 3570, 3375, 735}},
-            {d.cmdPlay, {2160, 4350, 1335, 375}}, {d.cmdCancel, {720, 4350, 1335, 375}}};
-        for (const auto& [w, at] : twips)
-            EXPECT_EQ(QRect(w->x() * 15, w->y() * 15, w->width() * 15, w->height() * 15), at) << "top " << at.y();
         d.cmdCancel->click();
     });
     form->mnuNewPlayers->trigger();

@@ -1,5 +1,4 @@
-// The reports' windows offscreen: a name typed into frmHighScoreNotify with real keys and the table it lands in;
-// the results window without a data file.
+// The reports' windows offscreen: a name typed into frmHighScoreNotify with real keys and the table it lands in.
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -9,7 +8,6 @@
 #include "Label.h"
 #include "ModalAnswer.h"
 #include "frmHighScoreNotify.h"
-#include "frmPlayerResults.h"
 #include "frmHighScores.h"
 #include "modCommon.h"
 
@@ -51,16 +49,4 @@ TEST_F(HighScoreWindows, NameTypedInTheNotifyWindowReachesTheTable)
     fs::remove(DataPath());
     EXPECT_EQ((std::tuple{gHighScoreName, frmHighScores(nullptr).Loaded(), messages.size()}),   // braces: in order
               std::tuple("a b2cdefghi", false, std::size_t(1)));
-}
-
-// Without a data file the all-time line goes, and the frame, the info line, OK and the window give up its 240 twips.
-TEST_F(HighScoreWindows, ResultsWithoutADataFileLoseTheAllTimeLine)
-{
-    gPlayerNames.ReDim(1, "< Player 1 >"), gScores.ReDim(1), ClearScoreboard(), ClearSessionStats(), gCurrentPlayer = 1;
-    frmPlayerResults results(nullptr);
-    results.ShowValues();
-    const auto twips = [](QWidget* w) { return QRect(w->x() * 15, w->y() * 15, w->width() * 15, w->height() * 15); };
-    EXPECT_EQ(std::tuple(twips(&results).size(), twips(results.fraCurrentSession), twips(results.lblCurrentInfo).top(),
-                         twips(results.cmdOK), results.lblAll->isHidden() && results.lblAllAvg->isHidden()),
-              std::tuple(QSize(3855, 2400), QRect(120, 600, 3615, 1215), 960, QRect(2400, 1920, 1335, 375), true));
 }
