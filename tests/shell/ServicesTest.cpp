@@ -36,12 +36,8 @@ TEST(Services, AppPath)
 TEST(Services, AppPathAsStarted)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"/home/ann/.local/share/zarvo/Zarvo", "/home/ann/.local/share/zarvo"},
-        {"build/bin/Zarvo", "/src/build/bin"},
-        {"./Zarvo", "/src"},
-        {"/Zarvo", "/"},
-        {"Zarvo", "/usr/lib/zarvo"},
-    };
+        {"/home/ann/.local/share/zarvo/Zarvo", "/home/ann/.local/share/zarvo"}, {"/Zarvo", "/"},
+        {"build/bin/Zarvo", "/src/build/bin"}, {"./Zarvo", "/src"}, {"Zarvo", "/usr/lib/zarvo"}};
     for (const auto& [started, directory] : cases)
         EXPECT_EQ(AppPathAsStarted(started, "/src", "/usr/lib/zarvo"), directory) << started;
 }
