@@ -16,6 +16,7 @@ packages=(
   xvfb xauth libx11-dev            # the smoke test of the real window
   desktop-file-utils appstream     # the install test validates the menu entry and metadata
   xdotool sqlite3                  # ... and plays the installed game, reading its data file
+  dpkg-dev lintian                 # the Debian package: its dependencies, and its check
 )
 
 missing=()

@@ -1,6 +1,7 @@
 #include "QtServices.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QMessageBox>
 #include <QPalette>
 #include <QPushButton>
@@ -80,7 +81,9 @@ int QtMsgBox(const std::string& text, int style, const std::string& title)
 
 void InstallQtServices(QApplication& app)
 {
-    SetAppPath(QApplication::applicationDirPath().toStdString());
+    SetAppPath(AppPathAsStarted(QCoreApplication::arguments().value(0).toStdString(),
+                                QDir::currentPath().toStdString(),
+                                QApplication::applicationDirPath().toStdString()));
     SetMsgBoxHandler(QtMsgBox);
     InstallAccessibleFactory();
     app.setStyle(QStyleFactory::create("Fusion"));

@@ -30,6 +30,18 @@ TEST(Services, AppPath)
     EXPECT_EQ(AppFile("Zarvo.dat"), "./Zarvo.dat");
 }
 
+// The program's directory is the folder it was started from, links not resolved: the launcher's per-user folder
+// of links to the installed game is the game's directory there. Only a start by name, which names no folder,
+// falls back to the real executable's.
+TEST(Services, AppPathAsStarted)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"/home/ann/.local/share/zarvo/Zarvo", "/home/ann/.local/share/zarvo"}, {"/Zarvo", "/"},
+        {"build/bin/Zarvo", "/src/build/bin"}, {"./Zarvo", "/src"}, {"Zarvo", "/usr/lib/zarvo"}};
+    for (const auto& [started, directory] : cases)
+        EXPECT_EQ(AppPathAsStarted(started, "/src", "/usr/lib/zarvo"), directory) << started;
+}
+
 // The real message box: the text with each carriage return and line feed as one break, the icon, the
 // buttons and the default button that a style asks for, and the answer of the button pressed.
 TEST(MsgBox, StyleAndAnswer)
