@@ -18,7 +18,8 @@ void ShowNotSaved(const char* firstLine)
 }
 
 // The steps in their order:
-//  1. open the file silently; without it only player 1 hears of it, so a game says it once;
+//  1. open the file for writing, silently; one that does not open or takes no writes is told
+//     to player 1 only, so a game says it once, and nobody types a name for nothing;
 //  2. the game score S;  3. the table lowest score first;  4. no row: nothing to do;
 //  5. S must beat the first (lowest) row strictly;  6. offer the name without placeholder marks;
 //  7. frmHighScoreNotify;  8. overwrite that row in one edit, stamped now;
@@ -26,7 +27,7 @@ void ShowNotSaved(const char* firstLine)
 //     already be closed by then.
 void CheckHighScore(int player, HighScoreDialogs& owner)
 {
-    if (!OpenDataFile(false)) {
+    if (!OpenDataFileForWriting()) {
         if (player == 1)
             ShowNotSaved("There was an error opening the data file.");
         return;
@@ -45,8 +46,7 @@ void CheckHighScore(int player, HighScoreDialogs& owner)
     }
     gHighScoreName = PlayerDisplayName(player);
     owner.ShowHighScoreNotify();
-    // A read-only or locked file opens but refuses the write: the player typed a name for
-    // nothing and is told so.
+    // A file taken by another program since step 1 refuses the write: the player is told so.
     if (!OverwriteHighScore(highScores, gHighScoreName, S, Now()))
         ShowNotSaved("There was an error writing the data file.");
     highScores.Close();

@@ -1,6 +1,7 @@
 // CheckHighScore on temporary data files: which total gets in, which row it replaces, who is told.
 #include "DataFileFixture.h"
 #include "HighScoreCheck.h"
+#include "PlayerStatistics.h"
 #include "modCommon.h"
 
 namespace {
@@ -11,17 +12,25 @@ struct RecordingDialogs : HighScoreDialogs {
     void ShowHighScores() override { shown.push_back("table"); }
 };
 
+using F = DataFileFixture;
 const std::string Fresh = "Ottilie|248;Bramwell|231;Quince|219;Marisol|207;Fenwick|196;Ludmila|188;Tobiah|175;Wren|163;"
                           "Castor|150;Isadora|142";
-struct Case { const char* damage; Names players; std::vector<int> totals; Names shown; std::string table, message{}; };
+const std::string OpenError = "There was an error opening the data file.";
+const Names Two{"< Player 1 >", "< Player 2 >"};
+// Refuse: makes the file one that can be read but takes no writes.
+struct Case { const char* damage; Names players; std::vector<int> totals; Names shown; std::string table, message{};
+              void (*refuse)(F&) = nullptr; };
 const Case Cases[] = {
     // Each player meets the table as the one before left it; equal to the lowest is not enough.
     {"", {"Ann", "< Player 2 >", "< Player 3 >"}, {160, 150, 151}, {"Ann", "table", "Player 3", "table"},
      Fresh.substr(0, Fresh.find("Castor")) + "Ann's|160;Player 3's|151"},
     // A file without its Setup table cannot be opened, as a missing one: told once, to the first player.
-    {"DROP TABLE Setup", Names(8, "< Player 1 >"), std::vector<int>(8, 300), {}, Fresh,
-     "There was an error opening the data file."},
-    // A refused write is told to the player, and the table still shows.
+    {"DROP TABLE Setup", Names(8, "< Player 1 >"), std::vector<int>(8, 300), {}, Fresh, OpenError},
+    // So is one that takes no writes, and nobody types a name for nothing; the statistics hide the all-time line.
+    {"", Two, {300, 300}, {}, Fresh, OpenError, [](F& f) { f.Chmod(0444); }},
+    {"", Two, {300, 300}, {}, Fresh, OpenError, [](F& f) { f.Chmod(0666, 0555); }},   // no journal beside it
+    {"", Two, {300, 300}, {}, Fresh, OpenError, [](F& f) { f.Lock("BEGIN IMMEDIATE"); }},   // another copy writes
+    // A write refused after the name was typed is told to the player, and the table still shows.
     {"CREATE TRIGGER No BEFORE UPDATE ON HighScores BEGIN SELECT RAISE(ABORT, ''); END", {"< Player 1 >"}, {300},
      {"Player 1", "table"}, Fresh, "There was an error writing the data file."},
 };
@@ -33,15 +42,23 @@ TEST_P(CheckHighScoreTest, BeatsTheLowestStrictlyAndReplacesItInPlace)
 {
     const Case& c = GetParam();
     MakeFreshFile(), SetClock([] { return DateTime{2026, 5, 4, 21, 15, 9}; }), Sql(c.damage);
-    gPlayerNames.ReDim(int(c.players.size())), gScores.ReDim(gPlayerNames.UBound()), ClearScoreboard();
+    if (c.refuse && (c.refuse(*this), IsSkipped()))
+        return;
+    const std::string file = Bytes() + Listing();
+    const int last = int(c.players.size());
+    gPlayerNames.ReDim(last), gScores.ReDim(last), ClearScoreboard(), ClearSessionStats();
+    for (int p = 1; p <= last; ++p)   // each card full
+        gPlayerNames[p] = c.players[p - 1], gScores[p][CatChance] = std::int16_t(c.totals[p - 1]);
+    EXPECT_TRUE(!c.refuse || !CountGameResults(1).AllTime);
     RecordingDialogs dialogs;
-    for (int p = 1; p <= gPlayerNames.UBound(); ++p)   // each card full in turn
-        gPlayerNames[p] = c.players[p - 1], gScores[p][CatChance] = c.totals[p - 1], CheckHighScore(p, dialogs);
+    for (int p = 1; p <= last; ++p)   // each card in turn
+        CheckHighScore(p, dialogs);
     EXPECT_EQ(dialogs.shown, c.shown);
     EXPECT_EQ(Sql("SELECT Player, Score FROM HighScores ORDER BY Score DESC, Player"), c.table);
     EXPECT_EQ(Sql("SELECT count(*) FROM HighScores WHERE (Player LIKE '%''s') <> (Date IS '2026-05-04 21:15:09')"),
               "0");   // every entry, and nothing else, carries the moment it was made
     const Message notSaved{c.message + "\r\nHigh scores will not be saved.", 16, "Zarvo - Data File Error"};
     EXPECT_EQ(messages, c.message.empty() ? std::vector<Message>{} : std::vector{notSaved});
+    EXPECT_TRUE(c.table != Fresh || Bytes() + Listing() == file) << "nothing entered, yet the file changed";
 }
 INSTANTIATE_TEST_SUITE_P(HighScores, CheckHighScoreTest, ::testing::ValuesIn(Cases));
