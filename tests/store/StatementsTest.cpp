@@ -1,6 +1,5 @@
-// The statements on a fresh file: names as they stand, figures a hand-edited row may hold, the top ten's order.
+// The statements on a fresh file: names as they stand, figures a hand-edited row may hold.
 #include "DataFileFixture.h"
-#include "HighScoreTable.h"
 #include "PlayerTable.h"
 
 namespace {
@@ -40,23 +39,5 @@ TEST_F(StatementsTest, AGameOnHandEditedFigures)
         UpdateLowScore(statistics, 120), UpdateHighScore(statistics, 120), CountGame(statistics, 120);
         EXPECT_EQ(Sql(Figures + "'" + name + "'"), after) << name;
     }
-}
-
-// The High Scores dialog opens the file anew while the high-score check holds its set: it reads the lowest
-// score first, the newer first among equal ones (it fills its lines from the bottom); after the dialog's
-// close the check's set still overwrites its lowest row.
-TEST_F(StatementsTest, HighScoresReadInsideTheCheckThatWrites)
-{
-    Sql("DELETE FROM HighScores; INSERT INTO HighScores VALUES ('A', 200, '2021'), ('B', 150, '2022-06-01 21:00'),"
-        " ('C', 200, '2023'), ('D', 150, '2022-06-01 09:00'), ('E', 99, '2024')");
-    Recordset lowest = OpenHighScoresLowestFirst();  // on its first row, as every set opens
-    ASSERT_TRUE(OpenDataFile(true));
-    std::string order;
-    for (Recordset dialog = OpenHighScoresForDialog(); !dialog.Eof(); dialog.MoveNext())
-        order += dialog.Fields("Player").Value.CStr();
-    EXPECT_EQ(order, "EBDCA");
-    CloseDataFile();
-    EXPECT_TRUE(OverwriteHighScore(lowest, "Nested", 500, DateTime{2024, 5, 6, 7, 8, 9}));
-    EXPECT_EQ(Sql("SELECT * FROM HighScores WHERE Player IN ('E', 'Nested')"), "Nested|500|2024-05-06 07:08:09");
 }
 }
