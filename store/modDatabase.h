@@ -22,5 +22,5 @@ bool OpenDataFile(bool ShowError);
 // closed again and counts as a file that does not open; nothing is written to it.
 bool OpenDataFileForWriting();
 
-// Harmless when the file is already closed, as it is after a nested open and close.
+// Harmless when the file is already closed.
 void CloseDataFile();
