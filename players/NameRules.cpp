@@ -40,7 +40,7 @@ void PlayerSelection::cmdAdd_Click(std::string& Text)
         InsertSorted(Text, box);
     InsertSorted(Text, cboAddRemove);
     // The name stays in the lists even when the file does not take it: it can be played.
-    if (!OpenDataFile(false)) {
+    if (!OpenDataFileForWriting()) {
         ShowFileError("The information will not be saved.");
         return;
     }
@@ -65,7 +65,7 @@ void PlayerSelection::cmdRemove_Click(const std::string& Text)
         {"Are you sure you want to delete", "this player? All saved information", "for the player will be lost."});
     if (MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2, "Zarvo - Confirm Delete") != vbYes)
         return;
-    if (OpenDataFile(false)) {
+    if (OpenDataFileForWriting()) {
         DeletePlayer(Text);
         CloseDataFile();
     } else {

@@ -18,38 +18,31 @@ void ShowNotSaved(const char* firstLine)
 }
 
 // The steps in their order:
-//  1. open the file silently; without it only player 1 hears of it, so a game says it once;
-//  2. the game score S;  3. the table lowest score first;  4. no row: nothing to do;
-//  5. S must beat the first (lowest) row strictly;  6. offer the name without placeholder marks;
-//  7. frmHighScoreNotify;  8. overwrite that row in one edit, stamped now;
-//  9. frmHighScores, which opens and closes the file by itself;  10. close the file, which may
-//     already be closed by then.
+//  1. open the file for writing, silently; one that does not open or takes no writes is told
+//     to player 1 only, so a game says it once, and nobody types a name for nothing;
+//  2. the game score S;  3-5. S must beat the lowest row strictly;
+//  then the file is closed: no lock is held while the player types, so another running game
+//  can end its cards meanwhile;
+//  6. offer the name without placeholder marks;  7. frmHighScoreNotify;
+//  8. one write transaction over the row that is lowest by then, stamped now, if S still beats
+//     it; a write that fails after all (the file taken by another program since) is told;
+//  9. frmHighScores: the table as it now stands, with or without the entry.
 void CheckHighScore(int player, HighScoreDialogs& owner)
 {
-    if (!OpenDataFile(false)) {
+    if (!OpenDataFileForWriting()) {
         if (player == 1)
             ShowNotSaved("There was an error opening the data file.");
         return;
     }
     const int S = PlayerTotal(player);
-    Recordset highScores = OpenHighScoresLowestFirst();
-    if (highScores.RecordCount() == 0) {
-        CloseDataFile();
+    const bool getsIn = BeatsLowestHighScore(S);
+    CloseDataFile();
+    if (!getsIn)
         return;
-    }
-    highScores.MoveFirst();
-    // An empty score in a damaged row reads as 0, so that row is the first to be replaced.
-    if (!(S > highScores.Fields("Score").Value.CInt())) {
-        CloseDataFile();
-        return;
-    }
     gHighScoreName = PlayerDisplayName(player);
     owner.ShowHighScoreNotify();
-    // A read-only or locked file opens but refuses the write: the player typed a name for
-    // nothing and is told so.
-    if (!OverwriteHighScore(highScores, gHighScoreName, S, Now()))
+    if (!(OpenDataFile(false) && EnterHighScore(gHighScoreName, S, Now())))
         ShowNotSaved("There was an error writing the data file.");
-    highScores.Close();
-    owner.ShowHighScores();
     CloseDataFile();
+    owner.ShowHighScores();
 }

@@ -49,7 +49,7 @@ bool CountRow(const std::string& key, int score, ResultValues& counted)
         counted.BoldAllHigh = true;
     }
     if (counted.Info.empty())
-        counted.Info = AverageLine(score, row.Fields("AverageScore").Value.CDbl(), OverallLines);
+        counted.Info = AverageLine(score, StoredAverage(row, score), OverallLines);
     if (!CountGame(row, score))
         return false;
     counted.AllHigh = std::to_string(row.Fields("HighScore").Value.CInt());

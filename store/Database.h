@@ -27,6 +27,11 @@ public:
     // Harmless when no transaction is open.
     void Rollback() const;
 
+    // True when the file takes writes: it was not opened read-only, its write lock comes free
+    // within the busy wait, and a journal can be made beside it. Learned by a write that is
+    // rolled back, so the file keeps every byte and no journal stays behind.
+    bool TakesWrites() const;
+
     // Sets opened on this connection keep it open until they are gone too.
     void Close() { connection_.reset(); }
 

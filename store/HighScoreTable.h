@@ -7,14 +7,15 @@
 #include "DateTime.h"
 #include "Recordset.h"
 
-// Lowest score first: the first row is the one a new high score replaces. Among equal
-// lowest scores the store's order decides.
-Recordset OpenHighScoresLowestFirst();
+// True when `score` beats the lowest row strictly; false too when the table has no row.
+bool BeatsLowestHighScore(int score);
+
+// The new entry over the row that is lowest at this moment, if `score` still beats it
+// strictly; else nothing is written. Read and write are one write transaction, so another
+// running game that ended a card since the last read is neither overwritten nor missed.
+// False only when the file did not take the write.
+bool EnterHighScore(const std::string& player, int score, const DateTime& date);
 
 // The rows for the High Scores dialog: lowest score first, the newer row first among equal
 // scores (the dialog fills its lines from the bottom).
 Recordset OpenHighScoresForDialog();
-
-// Overwrites the current row of such a set with a new entry; false when it was not stored.
-bool OverwriteHighScore(Recordset& highScores, const std::string& player, int score,
-                        const DateTime& date);

@@ -1,5 +1,8 @@
 #include "PlayerTable.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include "modDatabase.h"
 
 namespace {
@@ -53,11 +56,10 @@ Recordset OpenPlayerStatistics(const std::string& key)
     return gDataDatabase.OpenRecordset(StatisticsStatement, {key});
 }
 
-// An empty figure (a file edited by hand) is no record yet, so any total sets it.
 bool UpdateLowScore(Recordset& statistics, int total)
 {
     const Variant& low = statistics.Fields("LowScore").Value;
-    if (!low.IsNull() && low.CInt() <= total)
+    if (low.IsNumber() && low.CInt() <= total)
         return false;
     StoreFigure(statistics, "LowScore", total);
     return true;
@@ -66,18 +68,25 @@ bool UpdateLowScore(Recordset& statistics, int total)
 bool UpdateHighScore(Recordset& statistics, int total)
 {
     const Variant& high = statistics.Fields("HighScore").Value;
-    if (!high.IsNull() && high.CInt() >= total)
+    if (high.IsNumber() && high.CInt() >= total)
         return false;
     StoreFigure(statistics, "HighScore", total);
     return true;
 }
 
+double StoredAverage(Recordset& statistics, int total)
+{
+    const Variant& average = statistics.Fields("AverageScore").Value;
+    return average.IsNumber() ? std::clamp(average.CDbl(), double(INT16_MIN), double(INT16_MAX)) : total;
+}
+
 bool CountGame(Recordset& statistics, int total)
 {
-    const double average = statistics.Fields("AverageScore").Value.CDbl();
-    const std::int32_t games = statistics.Fields("GamesPlayed").Value.CLng();
+    const double average = StoredAverage(statistics, total);
+    const Variant& played = statistics.Fields("GamesPlayed").Value;
+    const std::int32_t games = played.IsNumber() ? std::max<std::int32_t>(played.CLng(), 0) : 0;
     statistics.Edit();
     statistics.Fields("AverageScore").Value = (average * games + total) / (games + 1.0);
-    statistics.Fields("GamesPlayed").Value = std::int64_t(games) + 1;
+    statistics.Fields("GamesPlayed").Value = games == INT32_MAX ? games : games + 1;
     return statistics.Update();
 }

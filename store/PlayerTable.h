@@ -25,11 +25,19 @@ bool DeletePlayer(const std::string& name);
 // RecordCount is 0 when no row has that name.
 Recordset OpenPlayerStatistics(const std::string& key);
 
-// The end-of-game steps on the current row of that set, each stored at once. The first two
-// give true when `total` set a record: strictly below LowScore, strictly above HighScore,
-// or the figure was empty.
+// The end-of-game steps on the current row of that set, each stored at once.
+//
+// A figure that a hand edit left as text or NULL is absent, and this game's figure takes its
+// place: any total beats an absent HighScore or LowScore, an absent AverageScore counts as the
+// total itself, and an absent GamesPlayed, or a negative one, as no game yet. A number beyond
+// its column's range keeps its side of every comparison: the scores and the average are read
+// within 16 bits, as a mean of 16-bit totals lies there, and GamesPlayed stops at 2147483647.
+
+// True when `total` set a record: strictly below LowScore, strictly above HighScore.
 bool UpdateLowScore(Recordset& statistics, int total);
 bool UpdateHighScore(Recordset& statistics, int total);
+// AverageScore before this game, as the overall-average line compares it.
+double StoredAverage(Recordset& statistics, int total);
 // AverageScore becomes the mean with this game, from the old GamesPlayed; then GamesPlayed
 // grows by one. False when the row could not be stored.
 bool CountGame(Recordset& statistics, int total);

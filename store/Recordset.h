@@ -6,7 +6,7 @@
 // The rows are read in full when the set opens (the game's sets hold a few dozen rows at
 // most), each with its rowid, and Update writes one row back by that rowid. Reading in full
 // means no statement stays open on the file, so a transaction can end at any time; and the
-// set keeps its own share of the connection, so it stays usable while a nested routine opens
+// set keeps its own share of the connection, so it stays usable while another routine opens
 // the data file anew and closes it again.
 #include <sqlite3.h>
 

@@ -70,7 +70,8 @@ void LoadSetup(SetupMarks& marks)
 }
 
 // The rewrite is one transaction: a failure or a crash part-way leaves the rows of the
-// last exit, never empty tables.
+// last exit, never empty tables; and a file that takes no writes refuses it before anything
+// changes.
 void SaveSetup(const SetupMarks& marks)
 {
     if (!OpenDataFile(false))

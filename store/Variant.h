@@ -24,6 +24,11 @@ public:
     Variant(const DateTime& value);
 
     bool IsNull() const { return std::holds_alternative<std::monostate>(value_); }
+    // A whole or floating-point number, as opposed to empty or a text.
+    bool IsNumber() const
+    {
+        return std::holds_alternative<long long>(value_) || std::holds_alternative<double>(value_);
+    }
     // Calls `visitor` with std::monostate, long long, double or const std::string&.
     template <class Visitor>
     decltype(auto) Visit(Visitor&& visitor) const { return std::visit(visitor, value_); }

@@ -55,4 +55,14 @@ bool OpenDataFile(bool ShowError)
     return false;
 }
 
+bool OpenDataFileForWriting()
+{
+    if (!OpenDataFile(false))
+        return false;
+    if (gDataDatabase.TakesWrites())
+        return true;
+    CloseDataFile();
+    return false;
+}
+
 void CloseDataFile() { gDataDatabase.Close(); }

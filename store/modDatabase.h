@@ -16,5 +16,11 @@ extern Database gDataDatabase;
 // created and nothing is written to it here.
 bool OpenDataFile(bool ShowError);
 
-// Harmless when the file is already closed, as it is after a nested open and close.
+// OpenDataFile(false) for a piece of work that writes: true only when the file also takes
+// writes. One that can be read but not written (read-only, on a read-only medium, in a folder
+// where no journal can be made, or held by another running game past the busy wait) is
+// closed again and counts as a file that does not open; nothing is written to it.
+bool OpenDataFileForWriting();
+
+// Harmless when the file is already closed.
 void CloseDataFile();

@@ -55,7 +55,8 @@ TEST_F(PlayerRules, SeatsExchangeTheirNames)
     }
 }
 
-// Adds and Removes in a row: the messages, the names then in file and cboAddRemove, the text left.
+// Adds and Removes in a row: the messages, the names then in file and cboAddRemove, the text left. A file that takes
+// no writes, held by another copy of the game ('W') or read-only ('O'), gets the message of a missing one and keeps its names.
 TEST_F(PlayerRules, AddAndRemoveAnswerAndChangeListsAndFile)
 {
     const std::string q = "O'Hara \"Jr\"", withQ = "Cy;1up;bob;" + q + " / 1up," + q + ",bob,Cy";
@@ -71,16 +72,17 @@ TEST_F(PlayerRules, AddAndRemoveAnswerAndChangeListsAndFile)
         {'R', "bob", vbOK, {{"Cannot remove a player\r\nthat is currently selected.", 64, cannot}}, withQ, "bob"},
         {'R', q, vbNo, {sure}, withQ, q},
         {'R', q, vbYes, {sure}, known, q},
-        {'F', "", vbOK, {}, "no file / 1up,bob,Cy", ""},
-        {'A', "Al", vbOK, {{noFile + "information will not be saved.", 16, noOpen}}, "no file / 1up,Al,bob,Cy", "Al"},
-        {'R', "1up", vbYes, {sure, {noFile + "removal will not be saved.", 16, noOpen}}, "no file / Al,bob,Cy", "1up"},
+        {'W', "", vbOK, {}, known, ""},
+        {'A', "Al", vbOK, {{noFile + "information will not be saved.", 16, noOpen}}, "Cy;1up;bob / 1up,Al,bob,Cy", "Al"},
+        {'O', "", vbOK, {}, "Cy;1up;bob / 1up,Al,bob,Cy", ""},
+        {'R', "1up", vbYes, {sure, {noFile + "removal will not be saved.", 16, noOpen}}, "Cy;1up;bob / Al,bob,Cy", "1up"},
     };
     Load({"Cy", "bob"});
     for (auto& [action, text, answered, asked, lists, left] : steps) {
         messages.clear(), answer = answered;
-        action == 'A' ? dialog.cmdAdd_Click(text)
-                      : action == 'R' ? dialog.cmdRemove_Click(text) : void(fs::remove(DataPath()));
-        std::string seen = fs::exists(DataPath()) ? Sql("SELECT PlayerName FROM Player WHERE rowid > 1") : "no file";
+        action == 'A' ? dialog.cmdAdd_Click(text) : action == 'R' ? dialog.cmdRemove_Click(text)
+            : action == 'W' ? Lock("BEGIN IMMEDIATE") : (sqlite3_close(std::exchange(locker, nullptr)), Chmod(0444));
+        std::string seen = Sql("SELECT PlayerName FROM Player WHERE rowid > 1");
         for (std::size_t k = 0; k < dialog.cboAddRemove.List.size(); ++k)
             seen += (k ? "," : " / ") + dialog.cboAddRemove.List[k];
         EXPECT_EQ(messages, asked) << text;

@@ -7,6 +7,8 @@
 namespace {
 const std::string NoFile = "no file";
 std::string Ann(const std::string& figures) { return "INSERT INTO Player VALUES ('Ann', " + figures + ");"; }
+const std::string Untyped = "DROP TABLE Player; CREATE TABLE Player (PlayerName, HighScore, LowScore, AverageScore, GamesPlayed);";
+const SessionStats Between{300, 100, 150, 2};   // a total of 150 sets no session record and keeps its average
 
 // The file: NoFile or statements on a fresh file; one game per seat in turn, checked on the last, whose session
 // is given. Bold: session high, session low, all-time high, all-time low. Shown: the session's "high low avg|",
@@ -49,5 +51,15 @@ INSTANTIATE_TEST_SUITE_P(EndOfCard, Statistics, testing::Values(
     // and nothing is written or created.
     Case{NoFile, {"< Player 1 >"}, {0}, {}, "A new session low! Better luck next time!", ".B..", "0 0 0|", "0"},
     Case{"", {"Ghost"}, {180}, {200, 100, 150, 2}, "You bettered your session average...", "....", "200 100 160|", ""},
-    Case{Ann("200, 100, 150, 2") + "CREATE TRIGGER No BEFORE UPDATE ON Player BEGIN SELECT RAISE(ABORT, ''); END;", {"Ann"}, {150}, {200, 100, 150, 2}, "Your session average didn't change...", "....", "200 100 150|", "Ann|200|100|150.0|2"}));
+    Case{Ann("200, 100, 150, 2") + "CREATE TRIGGER No BEFORE UPDATE ON Player BEGIN SELECT RAISE(ABORT, ''); END;", {"Ann"}, {150}, {200, 100, 150, 2}, "Your session average didn't change...", "....", "200 100 150|", "Ann|200|100|150.0|2"},
+    // Figures edited by hand: text or NULL is absent and this game's figure takes its place; a number beyond its
+    // column keeps its side of every comparison, the average is read within 16 bits and stays finite, and the
+    // count stops at the top of its 32 bits. A negative count is no count.
+    Case{Ann("'500 points', 100, 150, 3"), {"Ann"}, {150}, Between, "Congratulations, an all-time high!", "..B.", "300 100 150|150 100 150", "Ann|150|100|150.0|4"},
+    Case{Untyped + Ann("NULL, NULL, NULL, NULL"), {"Ann"}, {150}, Between, "Congratulations, an all-time high!", "..BB", "300 100 150|150 150 150", "Ann|150|150|150.0|1"},
+    Case{Ann("300, 'xyz', 1e308, 3"), {"Ann"}, {150}, Between, "An all-time low! Better luck next time!", "...B", "300 100 150|300 150 24613", "Ann|300|150|24612.75|4"},
+    Case{Ann("99999, -99999, 150, 2"), {"Ann"}, {150}, Between, "Your overall average didn't change...", "....", "300 100 150|32767 -32768 150", "Ann|99999|-99999|150.0|3"},
+    Case{Ann("300, 100, 200, 2147483647"), {"Ann"}, {150}, Between, "Brought your overall average down...", "....", "300 100 150|300 100 200", "Ann|300|100|199.999999976717|2147483647"},
+    Case{Ann("300, 100, 'abc', '7 games'"), {"Ann"}, {150}, Between, "Your overall average didn't change...", "....", "300 100 150|300 100 150", "Ann|300|100|150.0|1"},
+    Case{Ann("300, 100, -9e999, -1"), {"Ann"}, {150}, Between, "You bettered your overall average...", "....", "300 100 150|300 100 150", "Ann|300|100|150.0|1"}));
 }

@@ -6,6 +6,9 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <thread>
 
 #include "AppPath.h"
 #include "FreshDataFile.h"
@@ -39,6 +42,7 @@ public:
     void TearDown() override
     {
         CloseDataFile(), SetMsgBoxHandler({});
+        releaser = {}, sqlite3_close(locker);
         setfsuid(getuid()), fs::remove_all(directory);
     }
 
@@ -61,10 +65,31 @@ public:
         sqlite3_close(connection);
         return rows;
     }
-    // Root passes every file mode, so root tests them as another user, who loses its overrides.
-    void Chmod(mode_t mode)
+    std::string Bytes() const { std::ostringstream s; s << std::ifstream(DataPath()).rdbuf(); return s.str(); }
+    void WriteBytes(const std::string& bytes) const { std::ofstream(DataPath()) << bytes; }
+    // The names in the program's folder: a journal left beside the data file shows here.
+    std::string Listing() const
     {
-        chmod(directory.c_str(), 0711);
+        std::string names;
+        for (const auto& entry : fs::directory_iterator(directory)) names += entry.path().filename().string() + ";";
+        return names;
+    }
+    // Another program begins a transaction on the file and holds it, until the test ends or for `pause`
+    // milliseconds: "BEGIN EXCLUSIVE" keeps others from reading, "BEGIN IMMEDIATE" only from writing.
+    void Lock(const char* begin, int pause = 0)
+    {
+        ASSERT_EQ(sqlite3_open_v2(DataPath().c_str(), &locker, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(locker, begin, nullptr, nullptr, nullptr), SQLITE_OK);
+        if (pause)
+            releaser = std::jthread([this, pause] {
+                std::this_thread::sleep_for(std::chrono::milliseconds(pause));
+                sqlite3_exec(locker, "COMMIT", nullptr, nullptr, nullptr);
+            });
+    }
+    // Root passes every file mode, so root tests them as another user, who loses its overrides.
+    void Chmod(mode_t mode, mode_t folder = 0755)
+    {
+        chmod(directory.c_str(), folder);
         chmod(DataPath().c_str(), mode);
         if (getuid() == 0 && (setfsuid(65534), setfsuid(-1)) != 65534)
             GTEST_SKIP() << "root, and its file overrides could not be given up";
@@ -72,4 +97,6 @@ public:
 
     std::string directory;
     std::vector<Message> messages;
+    sqlite3* locker = nullptr;
+    std::jthread releaser;
 };

@@ -1,9 +1,5 @@
 // The options and players kept from one run to the next, whatever file lies beside the program: a usable
 // file gives them back and takes the new ones; any other costs no game, is told once, and keeps every byte.
-#include <fstream>
-#include <sstream>
-#include <thread>
-
 #include "DataFileFixture.h"
 
 namespace {
@@ -32,26 +28,7 @@ struct FileCase {
 };
 void PrintTo(const FileCase& c, std::ostream* out) { *out << c.name; }
 
-class SavedSetupTest : public DataFileFixture, public ::testing::WithParamInterface<FileCase> {
-public:
-    std::string Bytes() const { std::ostringstream s; s << std::ifstream(DataPath()).rdbuf(); return s.str(); }
-    void WriteBytes(const std::string& bytes) const { std::ofstream(DataPath()) << bytes; }
-    // Another program holds the file exclusively, until the test ends or for `pause` milliseconds.
-    void Lock(int pause = 0)
-    {
-        ASSERT_EQ(sqlite3_open_v2(DataPath().c_str(), &locker, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-        ASSERT_EQ(sqlite3_exec(locker, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-        if (pause)
-            releaser = std::jthread([this, pause] {
-                std::this_thread::sleep_for(std::chrono::milliseconds(pause));
-                sqlite3_exec(locker, "COMMIT", nullptr, nullptr, nullptr);
-            });
-    }
-    ~SavedSetupTest() override { releaser = {}, sqlite3_close(locker); }
-
-    sqlite3* locker = nullptr;
-    std::jthread releaser;
-};
+class SavedSetupTest : public DataFileFixture, public ::testing::WithParamInterface<FileCase> {};
 
 const FileCase Cases[] = {
     {"PlayersWithoutSetupAreNotRead", "INSERT INTO PlayersInUse VALUES (1, 'Ann');", nullptr, true, true},
@@ -71,8 +48,11 @@ const FileCase Cases[] = {
     // of the last exit, as empty tables would read as the defaults.
     {"ColumnMissing", Rows + "ALTER TABLE Setup DROP COLUMN AnimateRolling;", nullptr, true},
     // Another game's short piece of work must not cost this one its saved setup.
-    {"LockedForAMoment", Rows, [](F& f) { f.Lock(200); }, true, true, Remembered},
+    {"LockedForAMoment", Rows, [](F& f) { f.Lock("BEGIN EXCLUSIVE", 200); }, true, true, Remembered},
+    // Files that can be read but not written still give back the remembered players.
     {"ReadOnly", Rows, [](F& f) { f.Chmod(0444); }, true, false, Remembered},
+    {"ReadOnlyFolder", Rows, [](F& f) { f.Chmod(0666, 0555); }, true, false, Remembered},
+    {"WriteLocked", Rows, [](F& f) { f.Lock("BEGIN IMMEDIATE"); }, true, false, Remembered},
     {"NoFile", Rows, [](F& f) { fs::remove(f.DataPath()); }},
     {"ZeroLength", Rows, [](F& f) { f.WriteBytes(""); }},
     {"NotADatabase", Rows, [](F& f) { f.WriteBytes(std::string(8192, 'Z')); }},
@@ -81,7 +61,7 @@ const FileCase Cases[] = {
     {"TableMissing", Rows, [](F& f) { f.Sql("DROP TABLE HighScores"); }},
     {"Directory", Rows, [](F& f) { fs::remove(f.DataPath()), fs::create_directory(f.DataPath()); }},
     {"Unreadable", Rows, [](F& f) { f.Chmod(0); }},
-    {"Locked", Rows, [](F& f) { f.Lock(); }},
+    {"Locked", Rows, [](F& f) { f.Lock("BEGIN EXCLUSIVE"); }},
 };
 
 // Load, save, load: a write into a file that cannot take it could cost every record the file holds.
@@ -94,14 +74,14 @@ TEST_P(SavedSetupTest, GameGoesOnAndOnlyAUsableFileIsWritten)
         c.damage(*this);
     if (IsSkipped())
         return;
-    const auto state = [this] { return std::pair(Bytes(), fs::symlink_status(DataPath()).type()); };
+    const auto state = [this] { return std::tuple(Bytes(), fs::symlink_status(DataPath()).type(), Listing()); };
     const auto before = state();
     EXPECT_EQ(OpenDataFile(true), c.opens);
     CloseDataFile();
     EXPECT_EQ(Loaded(), c.loads);
     SaveSetupWith({true, false, true, false}, std::get<Names>(Saved));  // rewrites the tables, never appends
     EXPECT_EQ(Loaded(), c.saves ? Saved : c.loads);
-    EXPECT_TRUE(c.saves || state() == before) << "the file changed";
+    EXPECT_TRUE(c.saves || state() == before) << "the file changed, or a journal was left";
     // Only OpenDataFile(true) tells the user, in exactly these words.
     const Message error{"There was an error opening the\r\ndata file. Please make sure the file\r\n"
                         "'Zarvo.dat' exists in this directory.", vbOKOnly | vbCritical, "Zarvo - Data File Error"};

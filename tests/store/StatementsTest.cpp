@@ -1,6 +1,5 @@
-// The statements on a fresh file: names as they stand, figures a hand-edited row may hold, the top ten's order.
+// The statements on a fresh file: names as they stand, whatever they hold.
 #include "DataFileFixture.h"
-#include "HighScoreTable.h"
 #include "PlayerTable.h"
 
 namespace {
@@ -27,36 +26,5 @@ TEST_F(StatementsTest, PlayersAreAddedListedAndDeletedByTheirExactName)
         EXPECT_TRUE(DeletePlayer(name)) << name;
     EXPECT_EQ(KnownPlayerNames(), (Names{"Zed", "1abc", "amy", "Bo"}));
     EXPECT_EQ(Sql(Figures + "'amy'"), "0|9999|0.0|0");
-}
-
-// A game of 120 on rows edited by hand: an empty figure is no record and no game yet; a figure beyond 16 bits
-// keeps its side of every comparison instead of wrapping.
-TEST_F(StatementsTest, AGameOnHandEditedFigures)
-{
-    Sql("DROP TABLE Player; CREATE TABLE Player (PlayerName, HighScore, LowScore, AverageScore, GamesPlayed);"
-        "INSERT INTO Player VALUES ('Nil', NULL, NULL, NULL, NULL), ('Huge', 99999, -99999, 150, 2)");
-    for (const auto& [name, after] : {std::pair{"Nil", "120|120|120.0|1"}, {"Huge", "99999|-99999|140.0|3"}}) {
-        Recordset statistics = OpenPlayerStatistics(name);
-        UpdateLowScore(statistics, 120), UpdateHighScore(statistics, 120), CountGame(statistics, 120);
-        EXPECT_EQ(Sql(Figures + "'" + name + "'"), after) << name;
-    }
-}
-
-// The High Scores dialog opens the file anew while the high-score check holds its set: it reads the lowest
-// score first, the newer first among equal ones (it fills its lines from the bottom); after the dialog's
-// close the check's set still overwrites its lowest row.
-TEST_F(StatementsTest, HighScoresReadInsideTheCheckThatWrites)
-{
-    Sql("DELETE FROM HighScores; INSERT INTO HighScores VALUES ('A', 200, '2021'), ('B', 150, '2022-06-01 21:00'),"
-        " ('C', 200, '2023'), ('D', 150, '2022-06-01 09:00'), ('E', 99, '2024')");
-    Recordset lowest = OpenHighScoresLowestFirst();  // on its first row, as every set opens
-    ASSERT_TRUE(OpenDataFile(true));
-    std::string order;
-    for (Recordset dialog = OpenHighScoresForDialog(); !dialog.Eof(); dialog.MoveNext())
-        order += dialog.Fields("Player").Value.CStr();
-    EXPECT_EQ(order, "EBDCA");
-    CloseDataFile();
-    EXPECT_TRUE(OverwriteHighScore(lowest, "Nested", 500, DateTime{2024, 5, 6, 7, 8, 9}));
-    EXPECT_EQ(Sql("SELECT * FROM HighScores WHERE Player IN ('E', 'Nested')"), "Nested|500|2024-05-06 07:08:09");
 }
 }
