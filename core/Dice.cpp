@@ -1,6 +1,7 @@
 // The five dice within one turn: drawing, holding, counting rolls, and what cmdRoll does.
 #include "GameTable.h"
 #include "../shell/MsgBox.h"
+#include "Translate.h"
 
 void GameTable::RollOrAccept()
 {
@@ -17,8 +18,9 @@ void GameTable::RollOrAccept()
         }
         return;
     }
-    const std::string question = std::string("No dice selected.") + vbCrLf + "Are you satisfied with the roll?";
-    if (MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2, "Zarvo - Confirm") != vbYes)
+    const std::string question = Translate("GameTable", "No dice selected.") + vbCrLf
+                                 + Translate("GameTable", "Are you satisfied with the roll?");
+    if (MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2, Translate("GameTable", "Zarvo - Confirm")) != vbYes)
         return;
     screen_.SetEnabled(Control::cmdRoll, false);
     screen_.SetEnabled(Control::picDisplayer, false);

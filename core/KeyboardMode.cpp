@@ -4,6 +4,7 @@
 #include "../shell/MsgBox.h"
 #include "../shell/QBColor.h"
 #include "modGlobalVars.h"
+#include "Translate.h"
 
 namespace {
 bool IsArrow(int key) { return key >= vbKeyLeft && key <= vbKeyDown; }
@@ -63,8 +64,8 @@ int GameTable::Form_KeyDown(int KeyCode)
             ShowCategoryCursor();
         }
     } else if (!keyboard && KeyCode != vbKeyReturn && !gKeyboardOffered) {
-        const int answer = MsgBox("Do you want to enable keyboard use?", vbYesNo | vbQuestion,
-                                  "Zarvo - Enable Keyboard");
+        const int answer = MsgBox(Translate("GameTable", "Do you want to enable keyboard use?"), vbYesNo | vbQuestion,
+                                  Translate("GameTable", "Zarvo - Enable Keyboard"));
         gKeyboardOffered = true;
         if (answer == vbYes)
             mnuUseKeyboard_Click();

@@ -5,6 +5,7 @@
 #include "../shell/QBColor.h"
 #include "modCommon.h"
 #include "modGlobalVars.h"
+#include "Translate.h"
 
 namespace {
 std::string CellText(int value) { return std::to_string(value) + " "; }
@@ -13,7 +14,7 @@ std::string CellText(int value) { return std::to_string(value) + " "; }
 void GameTable::RefreshScoreboard()
 {
     UnmarkAllCategories();
-    screen_.SetCaption(Control::fraScoreboard, PlayerDisplayName(gCurrentPlayer) + "'s Scoreboard");
+    screen_.SetCaption(Control::fraScoreboard, Arg(Translate("GameTable", "%1's Scoreboard"), {PlayerDisplayName(gCurrentPlayer)}));
     const ScoreCard& card = gScores[gCurrentPlayer];
     for (int category = 1; category <= CategoryCount; ++category)
         screen_.SetCellCaption(category, card[category] < 0 ? "" : CellText(card[category]));

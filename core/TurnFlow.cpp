@@ -5,6 +5,7 @@
 #include "../shell/MsgBox.h"
 #include "modCommon.h"
 #include "modGlobalVars.h"
+#include "Translate.h"
 
 void GameTable::StartNewGame()
 {
@@ -44,7 +45,8 @@ void GameTable::BeginTurn()
     screen_.SetDiePicture(2, ImageList::ilsDie, 6);   // the pile shows a six; mDice stays
     screen_.SetVisible(Control::lblSelectCategory, false);
     SetCellToolTips("");
-    screen_.SetCaption(Control::lblPleaseRoll, PlayerDisplayName(gCurrentPlayer) + "'s turn. Please roll.");
+    screen_.SetCaption(Control::lblPleaseRoll,
+                       Arg(Translate("GameTable", "%1's turn. Please roll."), {PlayerDisplayName(gCurrentPlayer)}));
     screen_.SetVisible(Control::lblPleaseRoll, true);
     screen_.SetFocusOnForm();
     mRollsDone = 0;
@@ -53,7 +55,7 @@ void GameTable::BeginTurn()
 void GameTable::BeginCategorySelection()
 {
     screen_.SetVisible(Control::lblSelectCategory, true);
-    SetCellToolTips("Scoring category");
+    SetCellToolTips(Translate("GameTable", "Scoring category"));
     ShowCategoryChoices();
     mKeyCursor = 1;
     if (IsOn(Option::UseKeyboard))
@@ -64,7 +66,8 @@ void GameTable::ScoreCategory(int Category)
 {
     const Evaluation e = Evaluate(Category);
     if (e.Sum() == 0 && AnyCategoryScores(mDice, gScores[gCurrentPlayer])) {
-        if (MsgBox("Take a zero?", vbYesNo | vbQuestion, "Zarvo - Confirm") != vbYes)
+        if (MsgBox(Translate("GameTable", "Take a zero?"), vbYesNo | vbQuestion, Translate("GameTable", "Zarvo - Confirm"))
+            != vbYes)
             return;   // nothing has changed; the player is still choosing
     }
     if (IsOn(Option::UseKeyboard))

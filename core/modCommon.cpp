@@ -1,6 +1,7 @@
 #include "modCommon.h"
 
 #include "modGlobalVars.h"
+#include "Translate.h"
 
 void ClearScoreboard()
 {
@@ -16,6 +17,9 @@ std::string PlayerDisplayName(int player)
     const std::string& name = gPlayerNames[player];
     if (name.empty() || name[0] != '<')
         return name;
+    for (int seat = 1; seat <= MaxPlayers; ++seat)
+        if (name == PlaceholderName(seat))   // stored in English, shown in the player's language
+            return Arg(Translate("modCommon", "Player %1"), {std::to_string(seat)});
     return TrimBlanks(name.size() >= 2 ? name.substr(1, name.size() - 2) : std::string());
 }
 

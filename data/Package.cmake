@@ -20,6 +20,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION games)
 # engine's SQLite driver are loaded at run time, which no linker sees.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libqt6sql6-sqlite")
+# Qt's own texts (the buttons of a message box, the help's search) in German and French.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 set(CPACK_STRIP_FILES ON)
 include(CPack)
 

@@ -1,26 +1,17 @@
 // The list of known players: Add and Remove change the dialog's lists and the data file at
 // once. Close does not undo them.
-#include <initializer_list>
-
 #include "MsgBox.h"
 #include "PlayerSelection.h"
 #include "PlayerTable.h"
 #include "modCommon.h"
 #include "modDatabase.h"
+#include "Translate.h"
 
 namespace {
-std::string Lines(std::initializer_list<const char*> lines)
+void ShowFileError(const std::string& consequence)
 {
-    std::string text;
-    for (const char* line : lines)
-        text += (text.empty() ? "" : vbCrLf) + std::string(line);
-    return text;
-}
-
-void ShowFileError(const char* consequence)
-{
-    MsgBox(Lines({"There is an error in the data file.", consequence}), vbOKOnly | vbCritical,
-           "Zarvo - Cannot Open Data File");
+    MsgBox(Translate("PlayerSelection", "There is an error in the data file.") + vbCrLf + consequence, vbOKOnly | vbCritical,
+           Translate("PlayerSelection", "Zarvo - Cannot Open Data File"));
 }
 }
 
@@ -28,11 +19,13 @@ void PlayerSelection::cmdAdd_Click(std::string& Text)
 {
     Text = TrimBlanks(Text);
     if (Text.empty()) {
-        MsgBox("Please enter a name to add.", vbOKOnly | vbExclamation, "Zarvo - Please Enter a Name");
+        MsgBox(Translate("PlayerSelection", "Please enter a name to add."), vbOKOnly | vbExclamation,
+               Translate("PlayerSelection", "Zarvo - Please Enter a Name"));
         return;
     }
     if (FindListItem(Text, cboAddRemove) >= 0) {
-        MsgBox("Cannot add player; the player already exists.", vbOKOnly, "Zarvo - Already Have Player");
+        MsgBox(Translate("PlayerSelection", "Cannot add player; the player already exists."), vbOKOnly,
+               Translate("PlayerSelection", "Zarvo - Already Have Player"));
         return;
     }
     InsertSorted(Text, lstPlayers);
@@ -41,7 +34,7 @@ void PlayerSelection::cmdAdd_Click(std::string& Text)
     InsertSorted(Text, cboAddRemove);
     // The name stays in the lists even when the file does not take it: it can be played.
     if (!OpenDataFileForWriting()) {
-        ShowFileError("The information will not be saved.");
+        ShowFileError(Translate("PlayerSelection", "The information will not be saved."));
         return;
     }
     AddPlayer(Text);   // a row the file refuses is lost without a word
@@ -51,25 +44,27 @@ void PlayerSelection::cmdAdd_Click(std::string& Text)
 void PlayerSelection::cmdRemove_Click(const std::string& Text)
 {
     if (FindListItem(Text, cboAddRemove) < 0) {
-        MsgBox("Player not found - cannot remove player.", vbOKOnly | vbInformation, "Zarvo - Cannot Remove");
+        MsgBox(Translate("PlayerSelection", "Player not found - cannot remove player."), vbOKOnly | vbInformation,
+               Translate("PlayerSelection", "Zarvo - Cannot Remove"));
         return;
     }
     for (const ItemList& box : cboPlayer) {
         if (box.Text() == Text) {
-            MsgBox(Lines({"Cannot remove a player", "that is currently selected."}), vbOKOnly | vbInformation,
-                   "Zarvo - Cannot Remove");
+            MsgBox(Translate("PlayerSelection", "Cannot remove a player\r\nthat is currently selected."),
+                   vbOKOnly | vbInformation, Translate("PlayerSelection", "Zarvo - Cannot Remove"));
             return;
         }
     }
-    const std::string question = Lines(
-        {"Are you sure you want to delete", "this player? All saved information", "for the player will be lost."});
-    if (MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2, "Zarvo - Confirm Delete") != vbYes)
+    const std::string question = Translate(
+        "PlayerSelection", "Are you sure you want to delete\r\nthis player? All saved information\r\nfor the player will be lost.");
+    if (MsgBox(question, vbYesNo | vbQuestion | vbDefaultButton2, Translate("PlayerSelection", "Zarvo - Confirm Delete"))
+        != vbYes)
         return;
     if (OpenDataFileForWriting()) {
         DeletePlayer(Text);
         CloseDataFile();
     } else {
-        ShowFileError("The removal will not be saved.");
+        ShowFileError(Translate("PlayerSelection", "The removal will not be saved."));
     }
     // Selected in no box, the name is in every list.
     RemoveListItem(Text, lstPlayers);

@@ -9,11 +9,24 @@
 #include "NameKeyRule.h"
 #include "QtServices.h"
 #include "TypedKeyFilter.h"
+#include "modCommon.h"
 
 namespace {
 constexpr int PlayersWidth = 3615, TwoSeatHeight = 2685;   // with two seats
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
+
+// An entry as the player reads it: the rules keep the markers in English, "< None >" and
+// "< Player 3 >", and the boxes show them in the player's language.
+QString Shown(const std::string& item)
+{
+    if (item == NoneEntry)
+        return frmPlayers::tr("< None >");
+    for (int seat = 1; seat <= MaxPlayers; ++seat)
+        if (item == PlaceholderName(seat))
+            return frmPlayers::tr("< Player %1 >").arg(seat);
+    return Q(item);
+}
 
 // Shows a list of the rules in its box. Only a changed list is rebuilt, and an editable box
 // keeps what the user typed.
@@ -22,12 +35,12 @@ void ShowList(QComboBox* box, const ItemList& list)
     const QSignalBlocker quiet(box);
     bool same = box->count() == int(list.List.size());
     for (int k = 0; same && k < box->count(); ++k)
-        same = box->itemText(k) == Q(list.List[k]);
+        same = box->itemText(k) == Shown(list.List[k]);
     if (!same) {
         const QString typed = box->currentText();
         box->clear();
         for (const std::string& item : list.List)
-            box->addItem(Q(item));
+            box->addItem(Shown(item));
         if (box->isEditable())
             box->setEditText(typed);
     }
@@ -37,21 +50,21 @@ void ShowList(QComboBox* box, const ItemList& list)
 }
 
 frmPlayers::frmPlayers(QWidget* owner, GameTable& game)
-    : DialogWindow(owner, " Zarvo - Change Players", PlayersWidth, TwoSeatHeight, TitleBar::CloseBox, true),
+    : DialogWindow(owner, tr(" Zarvo - Change Players"), PlayersWidth, TwoSeatHeight, TitleBar::CloseBox, true),
       game_(game)
 {
     CreateSeats();
     CreateAddRemove();
     lblNote = NewLabel(this, {180, 1410, 3375, 735},
-                       "Note: to be able to add or remove players, the file 'Zarvo.dat' must exist in the same "
-                       "directory at the program file 'Zarvo.exe'. ");
+                       tr("Note: to be able to add or remove players, the file 'Zarvo.dat' must exist in the same "
+                          "directory at the program file 'Zarvo.exe'. "));
     lblNote->hide();
 
-    cmdCancel = new QPushButton("&Close", this);
-    cmdCancel->setToolTip("Play with the previously selected players.");
+    cmdCancel = new QPushButton(tr("&Close"), this);
+    cmdCancel->setToolTip(tr("Play with the previously selected players."));
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    cmdPlay = new QPushButton("&Play", this);
-    cmdPlay->setToolTip("Play with the currently selected players.");
+    cmdPlay = new QPushButton(tr("&Play"), this);
+    cmdPlay->setToolTip(tr("Play with the currently selected players."));
     cmdPlay->setDefault(true);
     connect(cmdPlay, &QPushButton::clicked, this, [this] { cmdPlay_Click(); });
 
@@ -72,15 +85,14 @@ frmPlayers::frmPlayers(QWidget* owner, GameTable& game)
 void frmPlayers::CreateSeats()
 {
     fraCurrentPlayers = new Frame(this);
-    fraCurrentPlayers->SetCaption("Selected Players:");
+    fraCurrentPlayers->SetCaption(tr("Selected Players:"));
     for (int i = 0; i < MaxPlayers; ++i) {
-        const QString number = QString::number(i + 1);
-        lblPlayer[i] = NewLabel(fraCurrentPlayers, {240, 300 + 360 * i, 975, 255}, "Player " + number + ":");
+        lblPlayer[i] = NewLabel(fraCurrentPlayers, {240, 300 + 360 * i, 975, 255}, tr("Player %1:").arg(i + 1));
         lblPlayer[i]->setFont(Look::CaptionFont());
         cboPlayer[i] = new QComboBox(fraCurrentPlayers);
         Place(cboPlayer[i], {1800, 240 + 360 * i, 1455, 315});
-        cboPlayer[i]->setToolTip("Select player #" + number + ".");
-        cboPlayer[i]->setAccessibleName("Player " + number);
+        cboPlayer[i]->setToolTip(tr("Select player #%1.").arg(i + 1));
+        cboPlayer[i]->setAccessibleName(tr("Player %1").arg(i + 1));
         connect(cboPlayer[i], &QComboBox::currentIndexChanged, this, [this, i](int index) {
             selection_.SetListIndex(i, index);
             ShowSelection();
@@ -91,23 +103,23 @@ void frmPlayers::CreateSeats()
 void frmPlayers::CreateAddRemove()
 {
     fraAddRemove = new Frame(this);
-    fraAddRemove->SetCaption("Add/Remove Players");
+    fraAddRemove->SetCaption(tr("Add/Remove Players"));
     cboAddRemove = new QComboBox(fraAddRemove);
     cboAddRemove->setEditable(true);
     cboAddRemove->setInsertPolicy(QComboBox::NoInsert);   // only Add puts a name in the list
     cboAddRemove->setCompleter(nullptr);                  // what is typed stays as typed
     Place(cboAddRemove, {120, 270, 1455, 315});
-    cboAddRemove->setToolTip("Select player to remove, or enter name to add.");
-    cboAddRemove->setAccessibleName("Player name");
+    cboAddRemove->setToolTip(tr("Select player to remove, or enter name to add."));
+    cboAddRemove->setAccessibleName(tr("Player name"));
     // cboAddRemove_KeyPress: typed keys reach the box, which hands them to its text field.
     FilterTypedKeys(cboAddRemove->lineEdit(), NameKeyRefused, cboAddRemove);
-    cmdAdd = new QPushButton("Add", fraAddRemove);
+    cmdAdd = new QPushButton(tr("Add"), fraAddRemove);
     Place(cmdAdd, {1680, 270, 615, 315});
-    cmdAdd->setToolTip("Add the player to the list.");
+    cmdAdd->setToolTip(tr("Add the player to the list."));
     connect(cmdAdd, &QPushButton::clicked, this, [this] { cmdAdd_Click(); });
-    cmdRemove = new QPushButton("Remove", fraAddRemove);
+    cmdRemove = new QPushButton(tr("Remove"), fraAddRemove);
     Place(cmdRemove, {2400, 270, 855, 315});
-    cmdRemove->setToolTip("Remove the selected player from the list.");
+    cmdRemove->setToolTip(tr("Remove the selected player from the list."));
     connect(cmdRemove, &QPushButton::clicked, this, [this] { cmdRemove_Click(); });
 }
 

@@ -14,6 +14,8 @@
 class GameTable;
 
 class frmPlayers : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmPlayers)
+
 public:
     // Form_Load runs here: a data file that does not open is reported before the dialog shows.
     frmPlayers(QWidget* owner, GameTable& game);

@@ -8,12 +8,13 @@
 #include "modCommon.h"
 #include "modDatabase.h"
 #include "modGlobalVars.h"
+#include "Translate.h"
 
 namespace {
-void ShowNotSaved(const char* firstLine)
+void ShowNotSaved(const std::string& firstLine)
 {
-    MsgBox(std::string(firstLine) + vbCrLf + "High scores will not be saved.", vbOKOnly | vbCritical,
-           "Zarvo - Data File Error");
+    MsgBox(firstLine + vbCrLf + Translate("HighScoreCheck", "High scores will not be saved."), vbOKOnly | vbCritical,
+           Translate("HighScoreCheck", "Zarvo - Data File Error"));
 }
 }
 
@@ -31,7 +32,7 @@ void CheckHighScore(int player, HighScoreDialogs& owner)
 {
     if (!OpenDataFileForWriting()) {
         if (player == 1)
-            ShowNotSaved("There was an error opening the data file.");
+            ShowNotSaved(Translate("HighScoreCheck", "There was an error opening the data file."));
         return;
     }
     const int S = PlayerTotal(player);
@@ -42,7 +43,7 @@ void CheckHighScore(int player, HighScoreDialogs& owner)
     gHighScoreName = PlayerDisplayName(player);
     owner.ShowHighScoreNotify();
     if (!(OpenDataFile(false) && EnterHighScore(gHighScoreName, S, Now())))
-        ShowNotSaved("There was an error writing the data file.");
+        ShowNotSaved(Translate("HighScoreCheck", "There was an error writing the data file."));
     CloseDataFile();
     owner.ShowHighScores();
 }

@@ -5,29 +5,33 @@
 #include "modCommon.h"
 #include "modDatabase.h"
 #include "modGlobalVars.h"
+#include "Translate.h"
 
 namespace {
-const char* const AllTimeHighLine = "Congratulations, an all-time high!";
-const char* const AllTimeLowLine = "An all-time low! Better luck next time!";
-const char* const SessionHighLine = "Congratulations, a new session high!";
-const char* const SessionLowLine = "A new session low! Better luck next time!";
+// The line in the player's language.
+std::string Line(const char* source) { return Translate("PlayerStatistics", source); }
+
+const char* const AllTimeHighLine = TranslatableText("PlayerStatistics", "Congratulations, an all-time high!");
+const char* const AllTimeLowLine = TranslatableText("PlayerStatistics", "An all-time low! Better luck next time!");
+const char* const SessionHighLine = TranslatableText("PlayerStatistics", "Congratulations, a new session high!");
+const char* const SessionLowLine = TranslatableText("PlayerStatistics", "A new session low! Better luck next time!");
 
 struct AverageLines {
     const char* bettered;
     const char* down;
     const char* same;
 };
-const AverageLines OverallLines{"You bettered your overall average...",
-                                "Brought your overall average down...",
-                                "Your overall average didn't change..."};
-const AverageLines SessionLines{"You bettered your session average...",
-                                "Brought your session average down...",
-                                "Your session average didn't change..."};
+const AverageLines OverallLines{TranslatableText("PlayerStatistics", "You bettered your overall average..."),
+                                TranslatableText("PlayerStatistics", "Brought your overall average down..."),
+                                TranslatableText("PlayerStatistics", "Your overall average didn't change...")};
+const AverageLines SessionLines{TranslatableText("PlayerStatistics", "You bettered your session average..."),
+                                TranslatableText("PlayerStatistics", "Brought your session average down..."),
+                                TranslatableText("PlayerStatistics", "Your session average didn't change...")};
 
 // Against the average before this game, unrounded: 246 betters a stored 245.5.
 std::string AverageLine(int score, double average, const AverageLines& lines)
 {
-    return score > average ? lines.bettered : score < average ? lines.down : lines.same;
+    return Line(score > average ? lines.bettered : score < average ? lines.down : lines.same);
 }
 
 std::string Rounded(double average) { return std::to_string(RoundToEven(average)); }
@@ -41,11 +45,11 @@ bool CountRow(const std::string& key, int score, ResultValues& counted)
         return false;
     row.MoveFirst();
     if (UpdateLowScore(row, score)) {
-        counted.Info = AllTimeLowLine;
+        counted.Info = Line(AllTimeLowLine);
         counted.BoldAllLow = true;
     }
     if (UpdateHighScore(row, score)) {
-        counted.Info = AllTimeHighLine;
+        counted.Info = Line(AllTimeHighLine);
         counted.BoldAllHigh = true;
     }
     if (counted.Info.empty())
@@ -89,21 +93,21 @@ ResultValues CountGameResults(int player)
 {
     ResultValues shown;
     const std::string name = PlayerDisplayName(player);
-    shown.SessionCaption = name + "'s Results:";
+    shown.SessionCaption = Arg(Translate("PlayerStatistics", "%1's Results:"), {name});
     const int score = PlayerTotal(player);
-    shown.Scored = name + " Scored: " + std::to_string(score);
+    shown.Scored = Arg(Translate("PlayerStatistics", "%1 Scored: %2"), {name, std::to_string(score)});
 
     // The session records first; an all-time record outranks them on the line.
     SessionStats& session = gSessionStats[player];
     if (session.SessionHigh < score) {
         session.SessionHigh = std::int16_t(score);
-        shown.Info = SessionHighLine;
+        shown.Info = Line(SessionHighLine);
         shown.BoldCurrentHigh = true;
     }
     if (session.SessionLow > score) {
         session.SessionLow = std::int16_t(score);
         if (shown.Info.empty())
-            shown.Info = SessionLowLine;
+            shown.Info = Line(SessionLowLine);
         shown.BoldCurrentLow = true;
     }
 

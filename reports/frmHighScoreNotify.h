@@ -7,6 +7,8 @@ class QLineEdit;
 class QPushButton;
 
 class frmHighScoreNotify : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmHighScoreNotify)
+
 public:
     // Form_Load: the box offers gHighScoreName. OK copies the box into gHighScoreName; a window
     // closed any other way leaves the offered name there.

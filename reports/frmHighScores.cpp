@@ -14,13 +14,13 @@ constexpr int RowTops[HighScoreRows] = {555, 900, 1260, 1620, 1980, 2340, 2700, 
 }
 
 frmHighScores::frmHighScores(QWidget* owner)
-    : DialogWindow(owner, "Zarvo - High Scores", 4575, 4845, TitleBar::CloseBox, true)
+    : DialogWindow(owner, tr("Zarvo - High Scores"), 4575, 4845, TitleBar::CloseBox, true)
 {
     fraTopTen = new Frame(this);
     Place(fraTopTen, {120, 120, 4335, 4135});
-    lblNameLbl = NewLabel(fraTopTen, {600, 180, 1335, 255}, "Player:");
-    lblScoreLbl = NewLabel(fraTopTen, {1920, 180, 615, 255}, "Score:", Align::Centre);
-    blbDateLbl = NewLabel(fraTopTen, {2760, 180, 1455, 255}, "Date:");
+    lblNameLbl = NewLabel(fraTopTen, {600, 180, 1335, 255}, tr("Player:"));
+    lblScoreLbl = NewLabel(fraTopTen, {1920, 180, 615, 255}, tr("Score:"), Align::Centre);
+    blbDateLbl = NewLabel(fraTopTen, {2760, 180, 1455, 255}, tr("Date:"));
     for (Label* heading : {lblNameLbl, lblScoreLbl, blbDateLbl})
         SetBold(heading);
     auto* line1 = new Line(fraTopTen, 60, 450, 4260, 450, Look::InactiveTitleBar);
@@ -32,7 +32,7 @@ frmHighScores::frmHighScores(QWidget* owner)
         lblDate[i] = NewLabel(fraTopTen, {2760, RowTops[i], 1455, 255});
     }
 
-    cmdOK = new QPushButton("OK", this);
+    cmdOK = new QPushButton(tr("OK"), this);
     Place(cmdOK, {3120, 4365, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);   // cmdOK_Click

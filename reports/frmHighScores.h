@@ -9,6 +9,8 @@ class Label;
 class QPushButton;
 
 class frmHighScores : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmHighScores)
+
 public:
     // Form_Load: opens the data file, telling the user if it cannot, fills the rows, closes it.
     explicit frmHighScores(QWidget* owner);

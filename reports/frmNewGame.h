@@ -6,6 +6,8 @@
 class QPushButton;
 
 class frmNewGame : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmNewGame)
+
 public:
     explicit frmNewGame(QWidget* owner);
 

@@ -14,9 +14,9 @@ constexpr int AllTimeLine = 240;
 }
 
 frmPlayerResults::frmPlayerResults(QWidget* owner)
-    : DialogWindow(owner, "Zarvo - Results", 3855, 2640, TitleBar::CloseBox, true)
+    : DialogWindow(owner, tr("Zarvo - Results"), 3855, 2640, TitleBar::CloseBox, true)
 {
-    cmdOK = new QPushButton("OK", this);   // created first: first in the tab order
+    cmdOK = new QPushButton(tr("OK"), this);   // created first: first in the tab order
     Place(cmdOK, {2400, 2160, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
@@ -28,14 +28,14 @@ frmPlayerResults::frmPlayerResults(QWidget* owner)
     fraCurrentSession = new Frame(this);
     Place(fraCurrentSession, {120, 600, 3615, 1455});
     QWidget* frame = fraCurrentSession;
-    lblCurrentHighLbl = NewLabel(frame, {1080, 300, 735, 255}, "High", Align::Centre);
-    lblCurrentLowLbl = NewLabel(frame, {1920, 300, 735, 255}, "Low", Align::Centre);
-    lblCurrentAvgLbl = NewLabel(frame, {2760, 300, 735, 255}, "Average", Align::Centre);
-    lblSession = NewLabel(frame, {120, 600, 735, 255}, "Session:");
+    lblCurrentHighLbl = NewLabel(frame, {1080, 300, 735, 255}, tr("High"), Align::Centre);
+    lblCurrentLowLbl = NewLabel(frame, {1920, 300, 735, 255}, tr("Low"), Align::Centre);
+    lblCurrentAvgLbl = NewLabel(frame, {2760, 300, 735, 255}, tr("Average"), Align::Centre);
+    lblSession = NewLabel(frame, {120, 600, 735, 255}, tr("Session:"));
     lblCurrentHigh = NewLabel(frame, {1080, 600, 735, 255}, {}, Align::Centre);
     lblCurrentLow = NewLabel(frame, {1920, 600, 735, 255}, {}, Align::Centre);
     lblCurrentAvg = NewLabel(frame, {2760, 600, 735, 255}, {}, Align::Centre);
-    lblAll = NewLabel(frame, {120, 840, 735, 255}, "All-time:");
+    lblAll = NewLabel(frame, {120, 840, 735, 255}, tr("All-time:"));
     lblAllHigh = NewLabel(frame, {1080, 840, 735, 255}, {}, Align::Centre);
     lblAllLow = NewLabel(frame, {1920, 840, 735, 255}, {}, Align::Centre);
     lblAllAvg = NewLabel(frame, {2760, 840, 735, 255}, {}, Align::Centre);

@@ -8,6 +8,8 @@
 class QPushButton;
 
 class frmPlayerResults : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmPlayerResults)
+
 public:
     explicit frmPlayerResults(QWidget* owner);
 

@@ -21,9 +21,9 @@ QString Number(int value) { return QString::fromStdString(Str(value)); }
 }
 
 frmSummary::frmSummary(QWidget* owner)
-    : DialogWindow(owner, "Zarvo - Scoring Summary", GridWidth, GridHeight, TitleBar::CloseBox, true)
+    : DialogWindow(owner, tr("Zarvo - Scoring Summary"), GridWidth, GridHeight, TitleBar::CloseBox, true)
 {
-    cmdOK = new QPushButton("OK", this);
+    cmdOK = new QPushButton(tr("OK"), this);
     Place(cmdOK, {3120, 3120, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
@@ -40,13 +40,13 @@ frmSummary::frmSummary(QWidget* owner)
     for (auto [array, name] : {std::pair{&lblName, "lblName"}, {&lblLeft, "lblLeft"}, {&lblRight, "lblRight"},
                                {&lblBonus, "lblBonus"}, {&lblTotal, "lblTotal"}, {&lblZarvos, "lblZarvos"}})
         SetArrayName(*array, name);
-    lblPlayerLbl = NewLabel(this, {240, 195, 1095, 255}, "Player:");
-    lblLeftLbl = NewLabel(this, {1440, 195, 375, 255}, "Left:", Align::Centre);
-    lblRightLbl = NewLabel(this, {1920, 195, 615, 255}, "Right:", Align::Centre);
-    lblBonusLbl = NewLabel(this, {2520, 195, 615, 255}, "Bonus:", Align::Centre);
-    lblTotalLbl = NewLabel(this, {3120, 195, 615, 255}, "Total:", Align::Centre);
-    lblZarvoLbl = NewLabel(this, {3840, 195, 615, 255}, "Zarvos:");
-    lblTotals = NewLabel(this, {240, 2700, 975, 255}, "Totals:");
+    lblPlayerLbl = NewLabel(this, {240, 195, 1095, 255}, tr("Player:"));
+    lblLeftLbl = NewLabel(this, {1440, 195, 375, 255}, tr("Left:"), Align::Centre);
+    lblRightLbl = NewLabel(this, {1920, 195, 615, 255}, tr("Right:"), Align::Centre);
+    lblBonusLbl = NewLabel(this, {2520, 195, 615, 255}, tr("Bonus:"), Align::Centre);
+    lblTotalLbl = NewLabel(this, {3120, 195, 615, 255}, tr("Total:"), Align::Centre);
+    lblZarvoLbl = NewLabel(this, {3840, 195, 615, 255}, tr("Zarvos:"));
+    lblTotals = NewLabel(this, {240, 2700, 975, 255}, tr("Totals:"));
     lblTotalLeft = NewLabel(this, {1320, 2700, 495, 255}, {}, Align::Right);
     lblTotalRight = NewLabel(this, {1920, 2700, 495, 255}, {}, Align::Right);
     lblTotalBonus = NewLabel(this, {2520, 2700, 495, 255}, {}, Align::Right);

@@ -9,6 +9,8 @@
 class QPushButton;
 
 class frmSummary : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmSummary)
+
 public:
     // Form_Load: ArrangeSummaryGrid, then FillSummaryGrid, for the players of gPlayerNames.
     explicit frmSummary(QWidget* owner);

@@ -17,6 +17,8 @@ packages=(
   desktop-file-utils appstream     # the install test validates the menu entry and metadata
   xdotool sqlite3                  # ... and plays the installed game, reading its data file
   dpkg-dev lintian                 # the Debian package: its dependencies, and its check
+  qt6-l10n-tools                   # lupdate and lrelease, for Zarvo's German and French
+  qt6-translations-l10n            # Qt's own texts (message box buttons, the help's search) in them
 )
 
 missing=()

@@ -1,4 +1,5 @@
 #include "DateTime.h"
+#include "Translate.h"
 
 #include <chrono>
 #include <ctime>
@@ -35,8 +36,15 @@ void SetClock(std::function<DateTime()> clock) { Clock() = std::move(clock); }
 
 std::string FormatDate(const DateTime& date)
 {
-    static const char* const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    static const char* const months[] = {
+        TranslatableText("FormatDate", "Jan"), TranslatableText("FormatDate", "Feb"),
+        TranslatableText("FormatDate", "Mar"), TranslatableText("FormatDate", "Apr"),
+        TranslatableText("FormatDate", "May"), TranslatableText("FormatDate", "Jun"),
+        TranslatableText("FormatDate", "Jul"), TranslatableText("FormatDate", "Aug"),
+        TranslatableText("FormatDate", "Sep"), TranslatableText("FormatDate", "Oct"),
+        TranslatableText("FormatDate", "Nov"), TranslatableText("FormatDate", "Dec")};
     const int m = (date.month >= 1 && date.month <= 12) ? date.month - 1 : 0;
-    return std::string(months[m]) + ". " + std::to_string(date.day) + ", " + std::to_string(date.year);
+    // %1 the month's short name, %2 the day, %3 the year: "Nov. 3, 2026" in English.
+    return Arg(Translate("FormatDate", "%1. %2, %3"),
+               {Translate("FormatDate", months[m]), std::to_string(date.day), std::to_string(date.year)});
 }

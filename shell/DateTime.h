@@ -24,5 +24,6 @@ DateTime Now();
 // Tests pin the clock; an empty function restores the real one.
 void SetClock(std::function<DateTime()> clock);
 
-// "mmm. d, yyyy" with English month names whatever the locale: "Nov. 3, 2026".
+// "mmm. d, yyyy" in English, "Nov. 3, 2026"; in another language its own order and short
+// month names, as its translation gives them.
 std::string FormatDate(const DateTime& date);

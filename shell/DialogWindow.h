@@ -2,6 +2,7 @@
 // A dialog of the game: a fixed client area in twips with its controls at their own twip
 // rectangles (no layouts), a single fixed border, no minimise or maximise box, and modal with
 // its owner when shown by exec(). Created for one showing and discarded after it.
+#include <QCoreApplication>   // Q_DECLARE_TR_FUNCTIONS, for each dialog's texts
 #include <QDialog>
 
 enum class TitleBar {

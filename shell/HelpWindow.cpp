@@ -34,7 +34,7 @@ private:
 
 HelpWindow::HelpWindow(const QString& helpFile) : helpFile_(helpFile), collection_(helpFile)
 {
-    setWindowTitle("Zarvo Help");
+    setWindowTitle(tr("Zarvo Help"));
     setAttribute(Qt::WA_QuitOnClose, false);
     resize(760, 520);
     QHelpEngine& engine = collection_.Engine();
@@ -47,9 +47,9 @@ HelpWindow::HelpWindow(const QString& helpFile) : helpFile_(helpFile), collectio
     (new QHBoxLayout(this))->addWidget(panes_);
 
     QHelpContentWidget* contents = engine.contentWidget();
-    finder_->addTab(contents, "&Contents");
-    finder_->addTab(CreateIndexTab(), "&Index");
-    finder_->addTab(CreateSearchTab(), "&Search");
+    finder_->addTab(contents, tr("&Contents"));
+    finder_->addTab(CreateIndexTab(), tr("&Index"));
+    finder_->addTab(CreateSearchTab(), tr("&Search"));
     connect(contents, &QHelpContentWidget::linkActivated, this, &HelpWindow::ShowPage);
     // Typing goes where the chosen tab takes it: the keyword, or the words to search for.
     connect(finder_, &QTabWidget::currentChanged, this, [this] { finder_->currentWidget()->setFocus(); });
@@ -64,7 +64,7 @@ HelpWindow::HelpWindow(const QString& helpFile) : helpFile_(helpFile), collectio
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &HelpWindow::ShowFinder);
 
     if (!collection_.Registered())
-        page_->setPlainText("There is no help to show: the help file \"" + helpFile + "\" could not be read.");
+        page_->setPlainText(tr("There is no help to show: the help file \"%1\" could not be read.").arg(helpFile));
 }
 
 // The finder's widgets and the page use the help engine, so they go before it.
@@ -73,9 +73,9 @@ HelpWindow::~HelpWindow() { delete panes_; }
 QWidget* HelpWindow::CreateIndexTab()
 {
     auto* tab = new QWidget;
-    auto* label = new QLabel("&Type the first letters of a keyword:", tab);
+    auto* label = new QLabel(tr("&Type the first letters of a keyword:"), tab);
     auto* lookFor = new QLineEdit(tab);
-    lookFor->setAccessibleName("Keyword");
+    lookFor->setAccessibleName(tr("Keyword"));
     label->setBuddy(lookFor);
     tab->setFocusProxy(lookFor);
     QHelpIndexWidget* index = collection_.Engine().indexWidget();

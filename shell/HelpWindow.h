@@ -2,6 +2,7 @@
 // The help viewer: the pages of the help beside its finder, which holds the contents, an index
 // of keywords and a full-text search. It is an ordinary window, not modal, so that the game can
 // be played beside it; it never keeps the program running once the game's window has closed.
+#include <QCoreApplication>
 #include <QWidget>
 
 #include "HelpCollection.h"
@@ -11,6 +12,8 @@ class QTabWidget;
 class QTextBrowser;
 
 class HelpWindow : public QWidget {
+    Q_DECLARE_TR_FUNCTIONS(HelpWindow)
+
 public:
     explicit HelpWindow(const QString& helpFile);
     ~HelpWindow() override;

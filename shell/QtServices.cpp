@@ -13,6 +13,7 @@
 #include "AppPath.h"
 #include "Look.h"
 #include "MsgBox.h"
+#include "Translate.h"
 #include "Twips.h"
 
 namespace {
@@ -85,6 +86,9 @@ void InstallQtServices(QApplication& app)
                                 QDir::currentPath().toStdString(),
                                 QApplication::applicationDirPath().toStdString()));
     SetMsgBoxHandler(QtMsgBox);
+    SetTranslator([](const char* context, const char* source) {
+        return QCoreApplication::translate(context, source).toStdString();
+    });
     InstallAccessibleFactory();
     app.setStyle(QStyleFactory::create("Fusion"));
     QPalette palette = app.style()->standardPalette();

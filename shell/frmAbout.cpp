@@ -38,16 +38,16 @@ frmAbout::frmAbout(QWidget* owner)
     Place(picTitle, {2400, 120, 1575, 655});
     lblTitle = NewLabel(picTitle, {0, 0, 1095, 375}, "Zarvo", Align::Centre);
     lblTitle->setFont(Look::TitleFont());
-    lblVersion = NewLabel(picTitle, {600, 360, 855, 255}, QString("Version ") + ZarvoVersion);
+    lblVersion = NewLabel(picTitle, {600, 360, 855, 255}, tr("Version %1").arg(ZarvoVersion));
 
-    lblInfo = NewLabel(client, {2520, 840, 1335, 855}, "Five dice and a score card for one to eight players.",
+    lblInfo = NewLabel(client, {2520, 840, 1335, 855}, tr("Five dice and a score card for one to eight players."),
                        Align::Centre);
-    lblProgrammer = NewLabel(client, {60, 1920, 2295, 375}, "Made by the Zarvo developers.",
+    lblProgrammer = NewLabel(client, {60, 1920, 2295, 375}, tr("Made by the Zarvo developers."),
                              Align::Centre);
     for (Label* credit : {lblInfo, lblProgrammer})
         credit->setFont(Look::SmallSerifFont());
 
-    cmdOK = new QPushButton("OK", client);
+    cmdOK = new QPushButton(tr("OK"), client);
     Place(cmdOK, {2520, 1800, 1335, 375});
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });

@@ -7,6 +7,8 @@ class Label;
 class QPushButton;
 
 class frmAbout : public DialogWindow {
+    Q_DECLARE_TR_FUNCTIONS(frmAbout)
+
 public:
     explicit frmAbout(QWidget* owner);
 

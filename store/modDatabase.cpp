@@ -2,6 +2,7 @@
 
 #include "AppPath.h"
 #include "MsgBox.h"
+#include "Translate.h"
 
 Workspace gDataWorkspace;
 Database gDataDatabase;
@@ -28,10 +29,9 @@ bool IsUsableDataFile(sqlite3* connection)
 
 void ShowOpenError()
 {
-    MsgBox(std::string("There was an error opening the") + vbCrLf
-               + "data file. Please make sure the file" + vbCrLf
-               + "'Zarvo.dat' exists in this directory.",
-           vbOKOnly | vbCritical, "Zarvo - Data File Error");
+    MsgBox(Translate("modDatabase", "There was an error opening the\r\ndata file. Please make sure the file\r\n"
+                                    "'Zarvo.dat' exists in this directory."),
+           vbOKOnly | vbCritical, Translate("modDatabase", "Zarvo - Data File Error"));
 }
 }
 

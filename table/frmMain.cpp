@@ -13,9 +13,9 @@
 #include <QTimer>
 
 #include "Accessible.h"
-#include "AppPath.h"
 #include "ControlNames.h"
 #include "DieFaces.h"
+#include "Languages.h"
 #include "Look.h"
 #include "frmAbout.h"
 #include "QBColor.h"
@@ -57,9 +57,10 @@ frmMain::frmMain()
     client->setFixedSize(TwipsToPixels(ClientWidth), TwipsToPixels(ClientHeight));
     setCentralWidget(client);
 
-    cmdRoll = new QPushButton("Roll", client);   // created first: first in the tab order
+    cmdRoll = new QPushButton(client);   // created first: first in the tab order
+    SetCaption(Control::cmdRoll, "Roll");
     Place(cmdRoll, {3120, 4080, 1335, 375});
-    cmdRoll->setToolTip("Roll or accept roll.");
+    cmdRoll->setToolTip(tr("Roll or accept roll."));
     cmdRoll->setDefault(true);
     connect(cmdRoll, &QPushButton::clicked, this, [this] {
         logic_.cmdRoll_Click();
@@ -70,7 +71,7 @@ frmMain::frmMain()
     Place(picDisplayer, {150, 120, 4275, 1755});
     picDisplayer->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     picDisplayer->setLineWidth(PanelBorderPixels);
-    picDisplayer->setAccessibleName("Dice");
+    picDisplayer->setAccessibleName(tr("Dice"));
     auto* field = new QWidget(picDisplayer);
     field->setGeometry(picDisplayer->rect().adjusted(PanelBorderPixels, PanelBorderPixels,
                                                      -PanelBorderPixels, -PanelBorderPixels));
@@ -131,19 +132,19 @@ void frmMain::CreateDiceField(QWidget* field)
     (new Line(field, 120, 855, 4080, 855, Look::WindowBackground))->setObjectName("Line8");
     (new Line(field, 120, 840, 4080, 840, Look::InactiveTitleBar))->setObjectName("Line7");
     for (int i = 0; i < 5; ++i) {
-        lblKeep[i] = NewLabel(field, {240 + 840 * i, 960, 375, 255}, "Keep", Align::Centre);
-        lblRoll[i] = NewLabel(field, {240 + 840 * i, 540, 375, 255}, "Roll", Align::Centre);
+        lblKeep[i] = NewLabel(field, {240 + 840 * i, 960, 375, 255}, tr("Keep"), Align::Centre);
+        lblRoll[i] = NewLabel(field, {240 + 840 * i, 540, 375, 255}, tr("Roll", "the word over a die"), Align::Centre);
     }
     for (int i = 0; i < 5; ++i) {
         lblDie[i] = NewLabel(field, {840 * i, 0, 855, 1695});
-        lblDie[i]->setAccessibleName(QString("Column of die %1").arg(i + 1));
+        lblDie[i]->setAccessibleName(tr("Column of die %1").arg(i + 1));
         connect(lblDie[i], &Label::MouseUp, this, [this, i](int button) {
             logic_.lblDie_MouseUp(i, button);
             WakeRollTimer();
         });
     }
     lblPleaseRoll = NewLabel(field, {240, 360, 3735, 255}, {}, Align::Centre);
-    lblSelectCategory = NewLabel(field, {240, 1320, 3735, 255}, "Please select a scoring category.", Align::Centre);
+    lblSelectCategory = NewLabel(field, {240, 1320, 3735, 255}, tr("Please select a scoring category."), Align::Centre);
     for (Label* prompt : {lblPleaseRoll, lblSelectCategory}) {
         prompt->setFont(Look::CaptionFont());
         // Only words: a click on them belongs to the die column below.
@@ -172,29 +173,34 @@ void frmMain::CreateScoreboard()
     QWidget* frame = fraScoreboard;
     struct Row { const char* name; int left, top, width; const char* caption; const char* tip; };
     static const Row names[CategoryCount] = {
-        {"lblOnes", 120, 270, 615, "Ones....", "Score total of ones showing."},
-        {"lblTwos", 120, 510, 615, "Twos....", "Score total of twos showing."},
-        {"lblThrees", 105, 750, 615, "Threes..", "Score total of threes showing."},
-        {"lblFours", 120, 990, 615, "Fours....", "Score total of fours showing."},
-        {"lblFives", 120, 1230, 615, "Fives....", "Score total of fives showing."},
-        {"lblSixes", 120, 1470, 615, "Sixes....", "Score total of sixes showing."},
-        {"lbl3OfAKindLbl", 1305, 270, 1215, "Three of a Kind..", "Three of one die type. (Score total of die showing.)"},
-        {"lbl4ofAKindLbl", 1320, 510, 1215, "Four of a Kind....", "Four of one die type. (Score total of die showing.)"},
-        {"lblFullHouseLbl", 1320, 750, 1335, "Full House.........", "Two of a kind + three of a kind. (Score 25.)"},
-        {"lblSmallStraightLbl", 1320, 990, 1215, "Small Straight....", "1-2-3-4, 2-3-4-5, or 3-4-5-6. (Score 30.)"},
-        {"lblLargeStraightLbl", 1320, 1230, 1215, "Large Straight...", "1-2-3-4-5 or 2-3-4-5-6. (Score 35.)"},
-        {"lblZarvoLbl", 1320, 1470, 1335, "Zarvo................", "Five of one die type. (Score 50.)"},
-        {"lblChanceLbl", 1320, 1710, 1335, "Chance.............", "Score total of die showing."},
+        {"lblOnes", 120, 270, 615, QT_TR_NOOP("Ones...."), QT_TR_NOOP("Score total of ones showing.")},
+        {"lblTwos", 120, 510, 615, QT_TR_NOOP("Twos...."), QT_TR_NOOP("Score total of twos showing.")},
+        {"lblThrees", 105, 750, 615, QT_TR_NOOP("Threes.."), QT_TR_NOOP("Score total of threes showing.")},
+        {"lblFours", 120, 990, 615, QT_TR_NOOP("Fours...."), QT_TR_NOOP("Score total of fours showing.")},
+        {"lblFives", 120, 1230, 615, QT_TR_NOOP("Fives...."), QT_TR_NOOP("Score total of fives showing.")},
+        {"lblSixes", 120, 1470, 615, QT_TR_NOOP("Sixes...."), QT_TR_NOOP("Score total of sixes showing.")},
+        {"lbl3OfAKindLbl", 1305, 270, 1215, QT_TR_NOOP("Three of a Kind.."),
+         QT_TR_NOOP("Three of one die type. (Score total of die showing.)")},
+        {"lbl4ofAKindLbl", 1320, 510, 1215, QT_TR_NOOP("Four of a Kind...."),
+         QT_TR_NOOP("Four of one die type. (Score total of die showing.)")},
+        {"lblFullHouseLbl", 1320, 750, 1335, QT_TR_NOOP("Full House........."),
+         QT_TR_NOOP("Two of a kind + three of a kind. (Score 25.)")},
+        {"lblSmallStraightLbl", 1320, 990, 1215, QT_TR_NOOP("Small Straight...."),
+         QT_TR_NOOP("1-2-3-4, 2-3-4-5, or 3-4-5-6. (Score 30.)")},
+        {"lblLargeStraightLbl", 1320, 1230, 1215, QT_TR_NOOP("Large Straight..."),
+         QT_TR_NOOP("1-2-3-4-5 or 2-3-4-5-6. (Score 35.)")},
+        {"lblZarvoLbl", 1320, 1470, 1335, QT_TR_NOOP("Zarvo................"), QT_TR_NOOP("Five of one die type. (Score 50.)")},
+        {"lblChanceLbl", 1320, 1710, 1335, QT_TR_NOOP("Chance............."), QT_TR_NOOP("Score total of die showing.")},
     };
     for (int c = 0; c < CategoryCount; ++c) {
-        lblCategoryNames[c] = NewLabel(frame, {names[c].left, names[c].top, names[c].width, 255}, names[c].caption);
-        lblCategoryNames[c]->setToolTip(names[c].tip);
+        lblCategoryNames[c] = NewLabel(frame, {names[c].left, names[c].top, names[c].width, 255}, tr(names[c].caption));
+        lblCategoryNames[c]->setToolTip(tr(names[c].tip));
         lblCategoryNames[c]->setObjectName(names[c].name);
     }
-    lblLeftLbl = NewLabel(frame, {3120, 510, 615, 255}, "Left......");
-    lblRightLbl = NewLabel(frame, {3120, 750, 615, 255}, "Right....");
-    lblBonusLbl = NewLabel(frame, {3120, 990, 615, 255}, "Bonus..");
-    lblTotalLbl = NewLabel(frame, {3120, 1470, 615, 255}, "Total....");
+    lblLeftLbl = NewLabel(frame, {3120, 510, 615, 255}, tr("Left......"));
+    lblRightLbl = NewLabel(frame, {3120, 750, 615, 255}, tr("Right...."));
+    lblBonusLbl = NewLabel(frame, {3120, 990, 615, 255}, tr("Bonus.."));
+    lblTotalLbl = NewLabel(frame, {3120, 1470, 615, 255}, tr("Total...."));
 
     for (int i = 1; i <= 6; ++i) {
         lblLeft[i] = NewLabel(frame, {720, 270 + 240 * (i - 1), 375, 255}, {}, Align::Right);
@@ -227,34 +233,34 @@ void frmMain::CreateScoreboard()
 
 void frmMain::CreateMenu()
 {
-    mnuFile = menuBar()->addMenu("&File");
-    mnuNewGame = mnuFile->addAction("&New Game");
+    mnuFile = menuBar()->addMenu(tr("&File"));
+    mnuNewGame = mnuFile->addAction(tr("&New Game"));
     mnuNewGame->setShortcut(Qt::Key_F3);
-    mnuNewPlayers = mnuFile->addAction("Change &Players...");
+    mnuNewPlayers = mnuFile->addAction(tr("Change &Players..."));
     mnuFile->addSeparator();
-    mnuExit = mnuFile->addAction("E&xit");
+    mnuExit = mnuFile->addAction(tr("E&xit"));
 
-    mnuOptions = menuBar()->addMenu("&Options");
-    mnuRememberPlayers = mnuOptions->addAction("&Remember Players");
+    mnuOptions = menuBar()->addMenu(tr("&Options"));
+    mnuRememberPlayers = mnuOptions->addAction(tr("&Remember Players"));
     mnuOptions->addSeparator();
-    mnuUseKeyboard = mnuOptions->addAction("Use &Keyboard");
+    mnuUseKeyboard = mnuOptions->addAction(tr("Use &Keyboard"));
     mnuUseKeyboard->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
-    mnuScoringPreview = mnuOptions->addAction("Show &Scoring Preview");
+    mnuScoringPreview = mnuOptions->addAction(tr("Show &Scoring Preview"));
     mnuScoringPreview->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_P));
-    mnuAnimation = mnuOptions->addAction("&Animate Rolling");
+    mnuAnimation = mnuOptions->addAction(tr("&Animate Rolling"));
     mnuAnimation->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_A));
     for (QAction* option : {mnuRememberPlayers, mnuUseKeyboard, mnuScoringPreview, mnuAnimation})
         option->setCheckable(true);
     mnuAnimation->setChecked(true);
     mnuOptions->addSeparator();
-    mnuScoringSummary = mnuOptions->addAction("Scoring Su&mmary...");
-    mnuHighScores = mnuOptions->addAction("&High Scores...");
+    mnuScoringSummary = mnuOptions->addAction(tr("Scoring Su&mmary..."));
+    mnuHighScores = mnuOptions->addAction(tr("&High Scores..."));
 
-    mnuHelp = menuBar()->addMenu("&Help");
-    mnuInstructions = mnuHelp->addAction("&Contents...");
+    mnuHelp = menuBar()->addMenu(tr("&Help"));
+    mnuInstructions = mnuHelp->addAction(tr("&Contents..."));
     mnuInstructions->setShortcut(Qt::Key_F1);
     mnuHelp->addSeparator();
-    mnuAbout = mnuHelp->addAction("&About...");
+    mnuAbout = mnuHelp->addAction(tr("&About..."));
     SetNames({{mnuFile, "mnuFile"}, {mnuNewGame, "mnuNewGame"}, {mnuNewPlayers, "mnuNewPlayers"}, {mnuExit, "mnuExit"},
               {mnuOptions, "mnuOptions"}, {mnuRememberPlayers, "mnuRememberPlayers"}, {mnuUseKeyboard, "mnuUseKeyboard"},
               {mnuScoringPreview, "mnuScoringPreview"}, {mnuAnimation, "mnuAnimation"},
@@ -285,7 +291,7 @@ void frmMain::CreateMenu()
 
 void frmMain::Form_Load()
 {
-    dlgHelp.HelpFile = AppFile("Zarvo.hlp");
+    dlgHelp.HelpFile = HelpFileName();   // Zarvo.hlp, or the help in the player's language
     dlgHelp.HelpCommand = cdlHelpContextPopup;
     if (const QScreen* screen = QApplication::primaryScreen()) {
         const QRect area = screen->geometry();
@@ -379,7 +385,7 @@ std::string frmMain::Caption(Control c) const
     if (auto* label = qobject_cast<Label*>(w))
         return label->Caption().toStdString();
     if (w == cmdRoll)
-        return cmdRoll->text().toStdString();
+        return rollCaption_;
     return fraScoreboard->Caption().toStdString();
 }
 
@@ -394,9 +400,11 @@ void frmMain::SetCaption(Control c, const std::string& text)
                                   {lblBonusTotal, lblBonusLbl}, {lblTotal, lblTotalLbl}})
             if (label == total)
                 label->setAccessibleName(SpokenCaption(row->Caption()) + ": " + caption);
-    } else if (w == cmdRoll)
-        cmdRoll->setText(caption);
-    else
+    } else if (w == cmdRoll) {
+        // The logic goes by the English caption; the player reads it in their language.
+        rollCaption_ = text;
+        cmdRoll->setText(text == "Accept" ? tr("Accept") : tr("Roll"));
+    } else
         fraScoreboard->SetCaption(caption);
 }
 
@@ -455,15 +463,20 @@ void frmMain::SetDiePicture(int i, ImageList list, int face)
 
 void frmMain::NameDie(int i)
 {
-    static const char* const faces[] = {"", "one", "two", "three", "four", "five", "six"};
-    QString name = QString("Die %1: ").arg(i + 1);
+    static const char* const faces[] = {"", QT_TR_NOOP("one"), QT_TR_NOOP("two"), QT_TR_NOOP("three"),
+                                        QT_TR_NOOP("four"), QT_TR_NOOP("five"), QT_TR_NOOP("six")};
+    const QString face = tr(faces[dieFace_[i]]);
+    QString state;
     if (DieLeft(i) == DieColumnLeft(i))
-        name += QString(faces[dieFace_[i]]) + (DieTop(i) == KeepRow ? ", kept" : DieTop(i) == RollRow ? ", to roll" : ", rolling");
+        state = DieTop(i) == KeepRow ? tr("%1, kept").arg(face) : DieTop(i) == RollRow ? tr("%1, to roll").arg(face)
+                                                                                      : tr("%1, rolling").arg(face);
     else if (DieLeft(i) == PileLeft && DieTop(i) == RollRow)
-        name += "on the pile";   // under die 3: no face to be seen
+        state = tr("on the pile");   // under die 3: no face to be seen
     else
-        name += "rolling";       // on its way between its column and the pile
-    imgDie[i]->setAccessibleName(name + (dieCursor_[i] ? ", under the cursor" : ""));
+        state = tr("rolling");       // on its way between its column and the pile
+    if (dieCursor_[i])
+        state = tr("%1, under the cursor").arg(state);
+    imgDie[i]->setAccessibleName(tr("Die %1: %2").arg(i + 1).arg(state));
 }
 
 void frmMain::RefreshDie(int i) { imgDie[i]->repaint(); }
@@ -502,13 +515,14 @@ void frmMain::NameCell(int category)
 {
     Label* cell = Cell(category);
     const QString value = cell->Caption().trimmed();
-    QString state = value.isEmpty() ? "open" : value;
+    QString state = value.isEmpty() ? tr("open") : value;
     if (cell->BorderStyle() == 1) {
         const bool scores = logic_.Evaluate(category).Sum() > 0;
-        state = scores ? "open, would score" + (value.isEmpty() ? "" : " " + value) : "open, would score nothing";
+        state = !scores ? tr("open, would score nothing")
+                : value.isEmpty() ? tr("open, would score") : tr("open, would score %1").arg(value);
     }
     if (cell->ForeColor() == Rgb(QBColor(15)))
-        state += ", under the cursor";
+        state = tr("%1, under the cursor").arg(state);
     cell->setAccessibleName(SpokenCaption(lblCategoryNames[category - 1]->Caption()) + ": " + state);
 }
 void frmMain::SetCellToolTip(int category, const std::string& text)

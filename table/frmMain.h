@@ -120,5 +120,6 @@ private:
     Dialogs* dialogs_ = nullptr;
     std::array<int, 5> dieFace_{1, 2, 3, 4, 5};   // the face each die's picture shows
     std::array<bool, 5> dieCursor_{};             // the picture is the cursor look
+    std::string rollCaption_;                     // cmdRoll's caption as the logic knows it
 
 };
