@@ -210,11 +210,11 @@ zu ihm gehen verloren.</translation>
     <name>PlayerStatistics</name>
     <message>
         <source>Congratulations, an all-time high!</source>
-        <translation>Glückwunsch, ein neuer Rekord!</translation>
+        <translation>Glückwunsch, ein neuer Allzeit-Rekord!</translation>
     </message>
     <message>
         <source>An all-time low! Better luck next time!</source>
-        <translation>Tiefstwert aller Zeiten! Mehr Glück beim nächsten Mal!</translation>
+        <translation>Allzeit-Tiefstwert! Nächstes Mal mehr Glück!</translation>
     </message>
     <message>
         <source>Congratulations, a new session high!</source>
@@ -222,31 +222,31 @@ zu ihm gehen verloren.</translation>
     </message>
     <message>
         <source>A new session low! Better luck next time!</source>
-        <translation>Tiefstwert der Sitzung! Mehr Glück beim nächsten Mal!</translation>
+        <translation>Sitzungs-Tiefstwert! Nächstes Mal mehr Glück!</translation>
     </message>
     <message>
         <source>You bettered your overall average...</source>
-        <translation>Du hast deinen Gesamtschnitt verbessert...</translation>
+        <translation>Gesamtschnitt verbessert...</translation>
     </message>
     <message>
         <source>Brought your overall average down...</source>
-        <translation>Dein Gesamtschnitt ist gesunken...</translation>
+        <translation>Gesamtschnitt gesunken...</translation>
     </message>
     <message>
         <source>Your overall average didn&apos;t change...</source>
-        <translation>Dein Gesamtschnitt bleibt gleich...</translation>
+        <translation>Gesamtschnitt unverändert...</translation>
     </message>
     <message>
         <source>You bettered your session average...</source>
-        <translation>Du hast deinen Schnitt der Sitzung verbessert...</translation>
+        <translation>Schnitt der Sitzung verbessert...</translation>
     </message>
     <message>
         <source>Brought your session average down...</source>
-        <translation>Dein Schnitt der Sitzung ist gesunken...</translation>
+        <translation>Schnitt der Sitzung gesunken...</translation>
     </message>
     <message>
         <source>Your session average didn&apos;t change...</source>
-        <translation>Dein Schnitt der Sitzung bleibt gleich...</translation>
+        <translation>Schnitt der Sitzung unverändert...</translation>
     </message>
     <message>
         <source>%1&apos;s Results:</source>

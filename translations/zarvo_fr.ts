@@ -210,11 +210,11 @@ enregistrées pour lui seront perdues.</translation>
     <name>PlayerStatistics</name>
     <message>
         <source>Congratulations, an all-time high!</source>
-        <translation>Bravo, un nouveau record&#xa0;!</translation>
+        <translation>Bravo, un nouveau record absolu&#xa0;!</translation>
     </message>
     <message>
         <source>An all-time low! Better luck next time!</source>
-        <translation>Votre pire score&#xa0;! Plus de chance la prochaine fois&#xa0;!</translation>
+        <translation>Pire score absolu&#xa0;! Courage, ça ira mieux&#xa0;!</translation>
     </message>
     <message>
         <source>Congratulations, a new session high!</source>
@@ -222,31 +222,31 @@ enregistrées pour lui seront perdues.</translation>
     </message>
     <message>
         <source>A new session low! Better luck next time!</source>
-        <translation>Pire score de la séance&#xa0;! Plus de chance la prochaine fois&#xa0;!</translation>
+        <translation>Pire score de la séance&#xa0;! Ça ira mieux&#xa0;!</translation>
     </message>
     <message>
         <source>You bettered your overall average...</source>
-        <translation>Vous avez amélioré votre moyenne générale...</translation>
+        <translation>Moyenne générale améliorée...</translation>
     </message>
     <message>
         <source>Brought your overall average down...</source>
-        <translation>Votre moyenne générale a baissé...</translation>
+        <translation>Moyenne générale en baisse...</translation>
     </message>
     <message>
         <source>Your overall average didn&apos;t change...</source>
-        <translation>Votre moyenne générale n&apos;a pas changé...</translation>
+        <translation>Moyenne générale inchangée...</translation>
     </message>
     <message>
         <source>You bettered your session average...</source>
-        <translation>Vous avez amélioré votre moyenne de la séance...</translation>
+        <translation>Moyenne de la séance améliorée...</translation>
     </message>
     <message>
         <source>Brought your session average down...</source>
-        <translation>Votre moyenne de la séance a baissé...</translation>
+        <translation>Moyenne de la séance en baisse...</translation>
     </message>
     <message>
         <source>Your session average didn&apos;t change...</source>
-        <translation>Votre moyenne de la séance n&apos;a pas changé...</translation>
+        <translation>Moyenne de la séance inchangée...</translation>
     </message>
     <message>
         <source>%1&apos;s Results:</source>
@@ -680,7 +680,7 @@ enregistrées pour lui seront perdues.</translation>
     </message>
     <message>
         <source>Note: to be able to add or remove players, the file &apos;Zarvo.dat&apos; must exist in the same directory at the program file &apos;Zarvo.exe&apos;. </source>
-        <translation>Remarque&#xa0;: pour pouvoir ajouter ou supprimer des joueurs, le fichier &apos;Zarvo.dat&apos; doit se trouver dans le même dossier que le programme. </translation>
+        <translation>Remarque&#xa0;: pour ajouter ou supprimer des joueurs, le fichier &apos;Zarvo.dat&apos; doit se trouver dans le dossier du programme. </translation>
     </message>
     <message>
         <source>&amp;Close</source>

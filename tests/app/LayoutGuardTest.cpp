@@ -1,22 +1,27 @@
 // Every window of the game against the layout table (WindowLayout.txt): each named control at
 // its rectangle in twips, with its caption, alignment and visibility, and no control that the
-// table does not name; then every caption that shows must fit its control. The same test runs
-// at twice the pixel density.
+// table does not name; every caption that shows must fit its control, and no two access keys of
+// a window or menu may be the same. It runs in English, German and French, where a caption is
+// the translation of the table's; and once more at twice the pixel density.
 #include <QAction>
 #include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QMenu>
-#include <QPainter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
+#include <functional>
 #include <memory>
+#include <optional>
 
+#include "CaptionFit.h"
 #include "DataFileFixture.h"
 #include "Frame.h"
 #include "Label.h"
+#include "Languages.h"
 #include "QtServices.h"
 #include "frmAbout.h"
 #include "frmHighScoreNotify.h"
@@ -35,6 +40,7 @@ struct Expected {
     QList<int> numbers;          // left, top, width, height; or x1, y1, x2, y2
     QString align, caption, shortcut;
     bool shown = true;
+    QString comment;             // tells equal English captions apart in the translation files
 };
 struct Case {
     QString id, title;
@@ -70,6 +76,7 @@ QList<Case> ReadLayout()
         } else {
             Expected e{w[0], "control", {w[1].toInt(), w[2].toInt(), w[3].toInt(), w[4].toInt()}, w[5], w[7]};
             e.shown = w[6] == "shown";
+            e.comment = w.value(8);
             cases.last().controls.append(e);
         }
     }
@@ -100,31 +107,14 @@ QString CaptionOf(const QWidget* w)
     return "-";
 }
 
-// Ink of `text` drawn as the label draws it, on a canvas three times its size: none may fall
-// outside the label's own rectangle (less its border).
-bool InkFits(const Label* label)
+// The letters after "&" in these texts, the access keys, are all different.
+void ExpectUniqueKeys(const QStringList& texts, const std::string& where)
 {
-    const qreal ratio = label->devicePixelRatioF();
-    const QSize size = label->size() - QSize(2, 2) * label->BorderStyle();
-    QImage canvas(size * 3 * ratio, QImage::Format_ARGB32_Premultiplied);
-    canvas.setDevicePixelRatio(ratio);
-    canvas.fill(Qt::transparent);
-    const QRect inside(QPoint(size.width(), 0), size);
-    {
-        QPainter painter(&canvas);
-        painter.setFont(label->font());
-        const int across = label->Alignment() == Align::Centre ? Qt::AlignHCenter
-                           : label->Alignment() == Align::Right ? Qt::AlignRight : Qt::AlignLeft;
-        painter.drawText(QRect(inside.topLeft(), QSize(size.width(), size.height() * 3)),
-                         across | Qt::AlignTop | Qt::TextWordWrap, label->Caption());
-    }
-    const QRect allowed = QRectF(QPointF(inside.topLeft()) * ratio, QSizeF(inside.size()) * ratio).toAlignedRect();
-    QRect ink;
-    for (int y = 0; y < canvas.height(); ++y)
-        for (int x = 0; x < canvas.width(); ++x)
-            if (qAlpha(canvas.pixel(x, y)))
-                ink |= QRect(x, y, 1, 1);
-    return allowed.contains(ink);
+    QStringList keys;
+    for (const QString& text : texts)
+        if (const qsizetype amp = text.indexOf('&'); amp >= 0 && amp + 1 < text.size())
+            keys << text.mid(amp + 1, 1).toLower();
+    EXPECT_EQ(QSet<QString>(keys.begin(), keys.end()).size(), keys.size()) << where << ": " << keys.join(' ').toStdString();
 }
 
 // A caption that shows fits: a label's ink lies within it, a button's or frame's text within
@@ -146,7 +136,8 @@ void ExpectFits(const QWidget* w, const QString& where)
 class LayoutGuard : public DataFileFixture {
 protected:
     // Opens the window of a case in its state; owner is the game table some dialogs need.
-    QWidget* Open(const QString& id)
+    // The window's class names the context of its texts in the translation files.
+    QWidget* Open(const QString& id, const char*& context)
     {
         const QStringList part = id.split('-');
         fs::remove(DataPath());
@@ -160,29 +151,45 @@ protected:
             gPlayerNames[p] = "< Player " + std::to_string(p) + " >";
         gScores.ReDim(gPlayerNames.UBound()), ClearScoreboard(), ClearSessionStats(), gCurrentPlayer = 1;
         gHighScoreName = "Player 1";
-        if (part[0] == "main")
-            return owner.get();
-        if (part[0] == "players")
-            return new frmPlayers(owner.get(), owner->Logic());
-        if (part[0] == "results") {
-            auto* results = new frmPlayerResults(owner.get());
-            results->ShowValues();
-            return results;
-        }
-        if (part[0] == "notify")
-            return new frmHighScoreNotify(owner.get());
-        if (part[0] == "highscores")
-            return new frmHighScores(owner.get());
-        if (part[0] == "summary")
-            return new frmSummary(owner.get());
-        if (part[0] == "newgame")
-            return new frmNewGame(owner.get());
-        return new frmAbout(owner.get());
+        const std::tuple<const char*, const char*, std::function<QWidget*()>> windows[] = {
+            {"main", "frmMain", [this] { return owner.get(); }},
+            {"players", "frmPlayers", [this] { return new frmPlayers(owner.get(), owner->Logic()); }},
+            {"results", "frmPlayerResults", [this] {
+                 auto* results = new frmPlayerResults(owner.get());
+                 results->ShowValues();
+                 return results;
+             }},
+            {"notify", "frmHighScoreNotify", [this] { return new frmHighScoreNotify(owner.get()); }},
+            {"highscores", "frmHighScores", [this] { return new frmHighScores(owner.get()); }},
+            {"summary", "frmSummary", [this] { return new frmSummary(owner.get()); }},
+            {"newgame", "frmNewGame", [this] { return new frmNewGame(owner.get()); }},
+            {"about", "frmAbout", [this] { return new frmAbout(owner.get()); }},
+        };
+        for (const auto& [name, className, open] : windows)
+            if (part[0] == name) {
+                context = className;
+                return open();
+            }
+        ADD_FAILURE() << "no window for " << id.toStdString();
+        return nullptr;
+    }
+
+    // The table's English text as the window must show it: its translation where the language has
+    // one; a text built at run time ("Player 1's Scoreboard") is compared in English only.
+    static std::optional<QString> Shown(const QString& english, const char* context, const QString& comment = {})
+    {
+        const QString translated = QCoreApplication::translate(
+            context, english.toUtf8().constData(), comment.isEmpty() ? nullptr : comment.toUtf8().constData());
+        if (UiLanguage() != "en" && translated == english)
+            return std::nullopt;
+        return translated;
     }
 
     void Check(const Case& c)
     {
-        QWidget* window = Open(c.id);
+        const char* context = nullptr;
+        QWidget* window = Open(c.id, context);
+        ASSERT_TRUE(window);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const auto* main = qobject_cast<QMainWindow*>(window);
@@ -190,8 +197,9 @@ protected:
                                                                    ? window->findChild<QWidget*>("imgMain")->parentWidget()
                                                                    : window;
         EXPECT_EQ(std::tuple(PixelsToTwips(client->width()), PixelsToTwips(client->height()), window->windowTitle().toStdString()),
-                  std::tuple(c.width, c.height, c.title.toStdString()));
+                  std::tuple(c.width, c.height, Shown(c.title, context).value_or(window->windowTitle()).toStdString()));
         QSet<QString> listed;
+        QStringList keys;   // the captions of the window's buttons
         for (const Expected& e : c.controls) {
             const std::string where = (c.id + " " + e.name).toStdString();
             listed << e.name;
@@ -201,7 +209,8 @@ protected:
                                                             : item ? qobject_cast<QMenu*>(item)->menuAction() : nullptr;
                 ASSERT_TRUE(action) << where;
                 EXPECT_EQ(std::tuple(action->text().toStdString(), action->shortcut().toString().toStdString()),
-                          std::tuple(e.caption.toStdString(), e.shortcut == "-" ? "" : e.shortcut.toStdString())) << where;
+                          std::tuple(Shown(e.caption, context).value_or(action->text()).toStdString(),
+                                     e.shortcut == "-" ? "" : e.shortcut.toStdString())) << where;
                 continue;
             }
             const QWidget* w = window->findChild<QWidget*>(e.name);
@@ -221,8 +230,23 @@ protected:
             if (auto* label = qobject_cast<const Label*>(w); label && e.align != "-")
                 EXPECT_EQ(AlignmentName(label->Alignment()).toStdString(), e.align.toStdString()) << where;
             if (e.caption != "*" && e.caption != "-")
-                EXPECT_EQ(CaptionOf(w).toStdString(), e.caption.toStdString()) << where;
+                EXPECT_EQ(CaptionOf(w).toStdString(), Shown(e.caption, context, e.comment).value_or(CaptionOf(w)).toStdString())
+                    << where;
             ExpectFits(w, c.id + " " + e.name);
+            if (qobject_cast<const QPushButton*>(w) && !w->isHidden())
+                keys << CaptionOf(w);
+        }
+        ExpectUniqueKeys(keys, c.id.toStdString());
+        if (auto* bar = main ? main->menuBar() : nullptr) {
+            QStringList menus;
+            for (QAction* menu : bar->actions()) {
+                menus << menu->text();
+                QStringList items;
+                for (QAction* item : menu->menu()->actions())
+                    items << item->text();
+                ExpectUniqueKeys(items, menu->text().toStdString());
+            }
+            ExpectUniqueKeys(menus, "the menu bar");
         }
         for (const QObject* o : window->findChildren<QObject*>())
             if (IsNamedControl(o))
@@ -236,12 +260,18 @@ protected:
 };
 }
 
-TEST_F(LayoutGuard, EveryWindowAsTheTableDrawsIt)
+TEST_F(LayoutGuard, EveryWindowAsTheTableDrawsItInEveryLanguage)
 {
+    fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
     const QList<Case> cases = ReadLayout();
     ASSERT_EQ(cases.size(), 13);
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.id.toStdString());
-        Check(c);
+    for (const char* language : {"en", "de", "fr"}) {
+        LoadLanguage(QLocale(language));
+        ASSERT_EQ(UiLanguage(), language);
+        for (const Case& c : cases) {
+            SCOPED_TRACE(std::string(language) + " " + c.id.toStdString());
+            Check(c);
+        }
     }
+    LoadLanguage(QLocale("en"));
 }

@@ -1,0 +1,175 @@
+// Zarvo in English, German and French: the translation files are complete and keep each text's
+// marks; in each language a turn is rolled, accepted and scored, every line the results window
+// can show fits it, and the data file keeps its placeholders in English whatever the language.
+#include <QFile>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QXmlStreamReader>
+
+#include "CaptionFit.h"
+#include "DataFileFixture.h"
+#include "Languages.h"
+#include "Translate.h"
+#include "frmMain.h"
+#include "frmPlayerResults.h"
+#include "frmPlayers.h"
+#include "modCommon.h"
+
+namespace {
+struct Entry {
+    QString context, source, comment, translation, type;
+};
+
+QList<Entry> ReadTranslations(const QString& language)
+{
+    QFile file(QString(ZARVO_TS_FOLDER) + "/zarvo_" + language + ".ts");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    QXmlStreamReader xml(&file);
+    QList<Entry> messages;
+    QString context;
+    // A line break is written as the carriage return <byte value="xd"/> and a line feed; the
+    // feeds are counted.
+    const auto text = [&xml] { return xml.readElementText(QXmlStreamReader::IncludeChildElements); };
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"name")
+            context = text();
+        else if (xml.name() == u"message")
+            messages.append({context});
+        else if (xml.name() == u"source")
+            messages.last().source = text();
+        else if (xml.name() == u"comment")
+            messages.last().comment = text();
+        else if (xml.name() == u"translation") {
+            messages.last().type = xml.attributes().value("type").toString();
+            messages.last().translation = text();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    return messages;
+}
+
+// The marks a translation must keep: the markers %1 to %9, the line breaks, one access key
+// where the English has one.
+QString Marks(const QString& text)
+{
+    static const QRegularExpression marker("%[1-9]");
+    QStringList markers;
+    for (const auto& m : marker.globalMatch(text))
+        markers << m.captured();
+    markers.sort();
+    return markers.join(',') + " lines " + QString::number(text.count('\n')) + " keys " +
+           QString::number(QString(text).remove("&&").count('&'));
+}
+
+// What each language shows of a first turn: the button after the roll, the title of the
+// question that "Accept" brings, and the prompt of the placeholder player 1.
+struct Shown {
+    const char* language;
+    const char* accept;
+    const char* confirm;
+    const char* prompt;
+};
+const Shown Languages[] = {
+    {"en", "Accept", "Zarvo - Confirm", "Player 1's turn. Please roll."},
+    {"de", "Annehmen", "Zarvo - Bestätigen", "Spieler 1 ist dran. Bitte würfeln."},
+    {"fr", "Accepter", "Zarvo - Confirmation", "À Joueur 1 de jouer. Lancez les dés."},
+};
+
+class InEachLanguage : public DataFileFixture {
+protected:
+    void SetUp() override
+    {
+        DataFileFixture::SetUp();
+        fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
+    }
+    void TearDown() override
+    {
+        LoadLanguage(QLocale("en"));
+        DataFileFixture::TearDown();
+    }
+};
+}
+
+// Every text of the sources is translated, finished, in both files, with the marks of its English.
+TEST(Translations, CompleteAndKeepTheirMarks)
+{
+    const QList<Entry> german = ReadTranslations("de"), french = ReadTranslations("fr");
+    ASSERT_GT(german.size(), 150);
+    ASSERT_EQ(german.size(), french.size());
+    for (qsizetype i = 0; i < german.size(); ++i) {
+        for (const Entry& m : {german[i], french[i]}) {
+            const std::string where = (m.context + ": " + m.source).toStdString();
+            EXPECT_TRUE(m.type.isEmpty() && !m.translation.isEmpty()) << where << " is not translated (" << m.type.toStdString() << ")";
+            EXPECT_EQ(Marks(m.translation).toStdString(), Marks(m.source).toStdString()) << where;
+        }
+        EXPECT_TRUE(german[i].context == french[i].context && german[i].source == french[i].source &&
+                    german[i].comment == french[i].comment) << german[i].source.toStdString();
+    }
+}
+
+// In each language the player reads the turn in that language while the logic goes by its
+// English captions: "Accept" brings its question, a boxed cell is scored. Every comment line
+// of the results window fits it.
+TEST_F(InEachLanguage, ATurnIsPlayedAndTheResultsLinesFit)
+{
+    std::vector<std::string> titles;
+    SetMsgBoxHandler([&titles](const std::string&, int, const std::string& title) {
+        titles.push_back(title);
+        return int(vbYes);
+    });
+    for (const Shown& shown : Languages) {
+        SCOPED_TRACE(shown.language);
+        LoadLanguage(QLocale(shown.language));
+        frmMain form;
+        form.Form_Load();
+        form.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
+        EXPECT_EQ(form.lblPleaseRoll->Caption().toStdString(), shown.prompt);
+        form.cmdRoll->click();
+        while (form.Logic().mRollPhase != 0)
+            form.Logic().tmrRoll_Timer();
+        EXPECT_EQ(form.cmdRoll->text().toStdString(), shown.accept);
+        titles.clear();
+        form.cmdRoll->click();   // no die marked: the question, answered Yes
+        ASSERT_EQ(titles, std::vector<std::string>{shown.confirm});
+        QTest::mouseClick(form.Cell(CatChance), Qt::LeftButton);
+        EXPECT_NE(gScores[1][CatChance], EmptyCell);
+
+        gCurrentPlayer = 1;
+        frmPlayerResults results(&form);
+        results.show();
+        for (const char* line : {"Congratulations, an all-time high!", "An all-time low! Better luck next time!",
+                                 "Congratulations, a new session high!", "A new session low! Better luck next time!",
+                                 "You bettered your overall average...", "Brought your overall average down...",
+                                 "Your overall average didn't change...", "You bettered your session average...",
+                                 "Brought your session average down...", "Your session average didn't change..."}) {
+            results.lblCurrentInfo->SetCaption(QString::fromStdString(Translate("PlayerStatistics", line)));
+            EXPECT_TRUE(InkFits(results.lblCurrentInfo)) << results.lblCurrentInfo->Caption().toStdString();
+        }
+    }
+}
+
+// Placeholders chosen in one language are stored in English and shown in the next: the file
+// that English wrote reads the same under German, and German's under French.
+TEST_F(InEachLanguage, PlaceholdersAreStoredInEnglish)
+{
+    MakeFreshFile();
+    Sql("INSERT INTO Setup VALUES (-1, 0, 0, -1); INSERT INTO PlayersInUse VALUES (1, '< Player 1 >');");
+    for (const Shown& shown : Languages) {
+        SCOPED_TRACE(shown.language);
+        LoadLanguage(QLocale(shown.language));
+        frmMain form;
+        form.Form_Load();
+        EXPECT_EQ(form.lblPleaseRoll->Caption().toStdString(), shown.prompt);
+        frmPlayers players(&form, form.Logic());   // the second seat: its placeholder, as the box shows it
+        players.cboPlayer[1]->setCurrentIndex(players.cboPlayer[1]->findText(frmPlayers::tr("< Player %1 >").arg(2)));
+        players.cmdPlay->click();
+        EXPECT_EQ(std::pair(gPlayerNames[2], PlayerDisplayName(2)),
+                  std::pair(std::string("< Player 2 >"), Arg(Translate("modCommon", "Player %1"), {"2"})));
+        form.close();   // saves the setup
+        EXPECT_EQ(Sql("SELECT PlayerName FROM PlayersInUse ORDER BY PlayerNumber"), "< Player 1 >;< Player 2 >");
+    }
+}
