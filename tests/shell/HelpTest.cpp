@@ -9,18 +9,49 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTextBrowser>
+#include <QTranslator>
 
+#include "Accessible.h"
 #include "HelpWindow.h"
+#include "Languages.h"
 #include "ModalAnswer.h"
 #include "QtServices.h"
 #include "Scoring.h"
 #include "WindowFixture.h"
 #include "frmAbout.h"
 
+namespace {
+// The help of a language: its file, and what its index finds for "Full House" and for the option
+// Remember Players, by their names in that language.
+struct HelpLanguage {
+    const char* language;
+    const char* file;
+    const char* rememberPlayers;
+};
+const HelpLanguage HelpLanguages[] = {
+    {"en", "Zarvo.hlp", "Remember Players"},
+    {"de", "Zarvo_de.hlp", "Spieler merken"},
+    {"fr", "Zarvo_fr.hlp", "Mémoriser les joueurs"},
+};
+
+class Help : public testing::TestWithParam<HelpLanguage> {
+protected:
+    void SetUp() override
+    {
+        if (translator.load(QString("zarvo_") + GetParam().language, ZARVO_TRANSLATIONS))
+            QCoreApplication::installTranslator(&translator);
+    }
+    void TearDown() override { QCoreApplication::removeTranslator(&translator); }
+
+    QString HelpFile() const { return QString(ZARVO_BIN_DIR) + "/" + GetParam().file; }
+    QTranslator translator;
+};
+}
+
 // Every page named in the contents exists; the index and a search find the pages of their words.
-TEST(Help, ContentsIndexAndSearchFindThePages)
+TEST_P(Help, ContentsIndexAndSearchFindThePages)
 {
-    HelpCollection help(ZARVO_HELP_FILE);
+    HelpCollection help(HelpFile());
     QHelpEngine& engine = help.Engine();
     QHelpSearchEngine* search = engine.searchEngine();
     QSignalSpy created(engine.contentModel(), &QHelpContentModel::contentsCreated), indexed(search, &QHelpSearchEngine::indexingFinished),
@@ -32,22 +63,27 @@ TEST(Help, ContentsIndexAndSearchFindThePages)
         for (int i = 0; i < items[k]->childCount(); ++i)
             items << items[k]->child(i);
     }
+    EXPECT_EQ(items.size(), 20);
     EXPECT_EQ(engine.documentsForKeyword("Full House").value(0).url.fileName(), "fullhouse.html");
-    EXPECT_EQ(engine.documentsForKeyword("Remember Players").value(0).url.fileName(), "players.html");
+    EXPECT_EQ(engine.documentsForKeyword(GetParam().rememberPlayers).value(0).url.fileName(), "players.html");
     search->search("bonus");
     ASSERT_TRUE(found.wait(10000));
     const QList<QHelpSearchResult> results = search->searchResults(0, search->searchResultCount());
     EXPECT_TRUE(std::any_of(results.begin(), results.end(), [](auto& r) { return r.url().fileName() == "bonus.html"; }));
 }
 
-// Rows of dice, category, what the card held by the card's own names ("Ones 4, Zarvo 50"), score, bonus.
-TEST(Help, ScoringExamplesAgreeWithTheRules)
+// Rows of dice, category, what the card held by the card's own names in the help's language
+// ("Ones 4, Zarvo 50"), score, bonus.
+TEST_P(Help, ScoringExamplesAgreeWithTheRules)
 {
-    const QStringList rows = {"", "Ones", "Twos", "Threes", "Fours", "Fives", "Sixes", "Three of a Kind",
-        "Four of a Kind", "Full House", "Small Straight", "Large Straight", "Zarvo", "Chance", "Bonus"};
-    const QRegularExpression held("([A-Z][A-Za-z ]*) (\\d+)"), example("<tr><td>([1-6]) ([1-6]) ([1-6]) ([1-6]) ([1-6])"
+    QStringList rows = {""};
+    for (const char* caption : {"Ones....", "Twos....", "Threes..", "Fours....", "Fives....", "Sixes....",
+                                "Three of a Kind..", "Four of a Kind....", "Full House.........", "Small Straight....",
+                                "Large Straight...", "Zarvo................", "Chance.............", "Bonus.."})
+        rows << SpokenCaption(QCoreApplication::translate("frmMain", caption));
+    const QRegularExpression held("(\\p{Lu}[\\p{L} ]*) (\\d+)"), example("<tr><td>([1-6]) ([1-6]) ([1-6]) ([1-6]) ([1-6])"
         "</td><td>([^<]*)</td><td>([^<]*)</td><td class=\"num\">(\\d+)</td><td class=\"num\">(\\d+)</td></tr>");
-    HelpCollection help(ZARVO_HELP_FILE);
+    HelpCollection help(HelpFile());
     QStringList covered;
     for (const QUrl& page : help.Engine().files(help.Engine().registeredDocumentations().first(), QString(), "html"))
         for (const QRegularExpressionMatch& m : example.globalMatch(QString::fromUtf8(help.Engine().fileData(page)))) {
@@ -63,11 +99,15 @@ TEST(Help, ScoringExamplesAgreeWithTheRules)
     EXPECT_EQ(covered.size(), CategoryCount) << covered.join(", ").toStdString();
 }
 
+INSTANTIATE_TEST_SUITE_P(EachLanguage, Help, testing::ValuesIn(HelpLanguages),
+                         [](const auto& info) { return std::string(info.param.language); });
+
 // F1 opens the help beside the game at its contents page, and again after another page was
-// read; About has no title bar, stands centred and closes by OK (its layout is the guard's).
+// read, and in the player's language; About has no title bar, stands centred and closes by OK
+// (its layout is the guard's).
 TEST_F(WindowTest, HelpMenuContentsAndAbout)
 {
-    ASSERT_TRUE(QFile::copy(ZARVO_HELP_FILE, dir.filePath("Zarvo.hlp")));
+    ASSERT_TRUE(QFile::copy(QString(ZARVO_BIN_DIR) + "/Zarvo.hlp", dir.filePath("Zarvo.hlp")));
     ASSERT_TRUE(Shown());
     QTest::keyClick(form.get(), Qt::Key_F1);
     HelpWindow* help = nullptr;
@@ -97,4 +137,18 @@ TEST_F(WindowTest, HelpMenuContentsAndAbout)
     });
     form->mnuAbout->trigger();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+
+    // A German player's F1 opens the German help.
+    ASSERT_TRUE(QFile::copy(QString(ZARVO_BIN_DIR) + "/Zarvo_de.hlp", dir.filePath("Zarvo_de.hlp")) &&
+                QFile::link(ZARVO_TRANSLATIONS, dir.filePath("translations")));
+    LoadLanguage(QLocale("de"));
+    frmMain german;
+    german.Form_Load();
+    german.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&german));
+    QTest::keyClick(&german, Qt::Key_F1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return (help = dynamic_cast<HelpWindow*>(QApplication::activeWindow())) != nullptr
+                                             && help->HelpFile().endsWith("Zarvo_de.hlp"); }));
+    EXPECT_EQ(help->windowTitle(), "Zarvo-Hilfe");
+    LoadLanguage(QLocale("en"));
 }

@@ -16,7 +16,8 @@ source "$(dirname "$0")/play.sh"
 deb=$(ls "$top"/out/*.deb)
 [ "${deb##*/}" = "zarvo_$(dpkg-deb -f "$deb" Version)_$(dpkg --print-architecture).deb" ] || fail "named ${deb##*/}"
 files=$(dpkg-deb -c "$deb" | awk '{print $6}')
-for f in games/zarvo lib/zarvo/Zarvo{,.hlp,.dat} share/applications/org.zarvo.Zarvo.desktop \
+for f in games/zarvo lib/zarvo/Zarvo{,.hlp,_de.hlp,_fr.hlp,.dat} lib/zarvo/translations/zarvo_{de,fr}.qm \
+         share/applications/org.zarvo.Zarvo.desktop \
          share/icons/hicolor/{scalable/apps/org.zarvo.Zarvo.svg,48x48/apps/org.zarvo.Zarvo.png} \
          share/metainfo/org.zarvo.Zarvo.metainfo.xml share/{man/man6/zarvo.6.gz,doc/zarvo/copyright}; do
   grep -qx "./usr/$f" <<<"$files" || fail "$f is not in the package"
