@@ -17,35 +17,28 @@
 #include "modCommon.h"
 
 namespace {
-struct Entry {
-    QString context, source, comment, translation, type;
-};
-
-QList<Entry> ReadTranslations(const QString& language)
+// The messages of a translation file, each as the texts of its elements by name, "context"
+// for the name of its context and "type" for the state of its translation. A line break is
+// written as the carriage return <byte value="xd"/> and a line feed; the feeds are counted.
+QList<QHash<QString, QString>> ReadTranslations(const QString& language)
 {
     QFile file(QString(ZARVO_TS_FOLDER) + "/zarvo_" + language + ".ts");
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     QXmlStreamReader xml(&file);
-    QList<Entry> messages;
+    QList<QHash<QString, QString>> messages;
     QString context;
-    // A line break is written as the carriage return <byte value="xd"/> and a line feed; the
-    // feeds are counted.
-    const auto text = [&xml] { return xml.readElementText(QXmlStreamReader::IncludeChildElements); };
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == u"name")
-            context = text();
-        else if (xml.name() == u"message")
-            messages.append({context});
-        else if (xml.name() == u"source")
-            messages.last().source = text();
-        else if (xml.name() == u"comment")
-            messages.last().comment = text();
-        else if (xml.name() == u"translation") {
-            messages.last().type = xml.attributes().value("type").toString();
-            messages.last().translation = text();
-        }
+        const QString element = xml.name().toString();
+        if (element == "message")
+            messages.append({{"context", context}});
+        else if (element == "translation")
+            messages.last()["type"] = xml.attributes().value("type").toString();
+        if (element == "name")
+            context = xml.readElementText();
+        else if (element == "source" || element == "comment" || element == "translation")
+            messages.last()[element] = xml.readElementText(QXmlStreamReader::IncludeChildElements);
     }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
     return messages;
@@ -78,43 +71,36 @@ const Shown Languages[] = {
     {"fr", "Accepter", "Zarvo - Confirmation", "À Joueur 1 de jouer. Lancez les dés."},
 };
 
-class InEachLanguage : public DataFileFixture {
-protected:
-    void SetUp() override
-    {
-        DataFileFixture::SetUp();
-        fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
-    }
-    void TearDown() override
-    {
-        LoadLanguage(QLocale("en"));
-        DataFileFixture::TearDown();
-    }
-};
+using InEachLanguage = DataFileFixture;
 }
 
 // Every text of the sources is translated, finished, in both files, with the marks of its English.
 TEST(Translations, CompleteAndKeepTheirMarks)
 {
-    const QList<Entry> german = ReadTranslations("de"), french = ReadTranslations("fr");
+    const auto german = ReadTranslations("de"), french = ReadTranslations("fr");
     ASSERT_GT(german.size(), 150);
     ASSERT_EQ(german.size(), french.size());
     for (qsizetype i = 0; i < german.size(); ++i) {
-        for (const Entry& m : {german[i], french[i]}) {
-            const std::string where = (m.context + ": " + m.source).toStdString();
-            EXPECT_TRUE(m.type.isEmpty() && !m.translation.isEmpty()) << where << " is not translated (" << m.type.toStdString() << ")";
-            EXPECT_EQ(Marks(m.translation).toStdString(), Marks(m.source).toStdString()) << where;
+        for (const auto& m : {german[i], french[i]}) {
+            const std::string where = (m["context"] + ": " + m["source"]).toStdString();
+            EXPECT_TRUE(m["type"].isEmpty() && !m["translation"].isEmpty()) << where << " is not translated";
+            EXPECT_EQ(Marks(m["translation"]).toStdString(), Marks(m["source"]).toStdString()) << where;
         }
-        EXPECT_TRUE(german[i].context == french[i].context && german[i].source == french[i].source &&
-                    german[i].comment == french[i].comment) << german[i].source.toStdString();
+        for (const char* element : {"context", "source", "comment"})
+            EXPECT_EQ(german[i][element], french[i][element]) << german[i]["source"].toStdString();
     }
 }
 
-// In each language the player reads the turn in that language while the logic goes by its
-// English captions: "Accept" brings its question, a boxed cell is scored. Every comment line
-// of the results window fits it.
-TEST_F(InEachLanguage, ATurnIsPlayedAndTheResultsLinesFit)
+// In each language the player reads the game in it while the logic goes by its English texts:
+// the remembered placeholder player is asked to roll, "Accept" brings its question, a boxed cell
+// is scored, and every comment line of the results window fits. A placeholder chosen in the
+// player dialog is stored in English: the file written under English reads the same under
+// German, and German's under French.
+TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
 {
+    fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
+    MakeFreshFile();
+    Sql("INSERT INTO Setup VALUES (-1, 0, 0, 0); INSERT INTO PlayersInUse VALUES (1, '< Player 1 >');");
     std::vector<std::string> titles;
     SetMsgBoxHandler([&titles](const std::string&, int, const std::string& title) {
         titles.push_back(title);
@@ -129,8 +115,7 @@ TEST_F(InEachLanguage, ATurnIsPlayedAndTheResultsLinesFit)
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
         EXPECT_EQ(form.lblPleaseRoll->Caption().toStdString(), shown.prompt);
         form.cmdRoll->click();
-        while (form.Logic().mRollPhase != 0)
-            form.Logic().tmrRoll_Timer();
+        form.Logic().tmrRoll_Timer();   // no animation: the roll ends on its first tick
         EXPECT_EQ(form.cmdRoll->text().toStdString(), shown.accept);
         titles.clear();
         form.cmdRoll->click();   // no die marked: the question, answered Yes
@@ -138,7 +123,6 @@ TEST_F(InEachLanguage, ATurnIsPlayedAndTheResultsLinesFit)
         QTest::mouseClick(form.Cell(CatChance), Qt::LeftButton);
         EXPECT_NE(gScores[1][CatChance], EmptyCell);
 
-        gCurrentPlayer = 1;
         frmPlayerResults results(&form);
         results.show();
         for (const char* line : {"Congratulations, an all-time high!", "An all-time low! Better luck next time!",
@@ -149,21 +133,7 @@ TEST_F(InEachLanguage, ATurnIsPlayedAndTheResultsLinesFit)
             results.lblCurrentInfo->SetCaption(QString::fromStdString(Translate("PlayerStatistics", line)));
             EXPECT_TRUE(InkFits(results.lblCurrentInfo)) << results.lblCurrentInfo->Caption().toStdString();
         }
-    }
-}
 
-// Placeholders chosen in one language are stored in English and shown in the next: the file
-// that English wrote reads the same under German, and German's under French.
-TEST_F(InEachLanguage, PlaceholdersAreStoredInEnglish)
-{
-    MakeFreshFile();
-    Sql("INSERT INTO Setup VALUES (-1, 0, 0, -1); INSERT INTO PlayersInUse VALUES (1, '< Player 1 >');");
-    for (const Shown& shown : Languages) {
-        SCOPED_TRACE(shown.language);
-        LoadLanguage(QLocale(shown.language));
-        frmMain form;
-        form.Form_Load();
-        EXPECT_EQ(form.lblPleaseRoll->Caption().toStdString(), shown.prompt);
         frmPlayers players(&form, form.Logic());   // the second seat: its placeholder, as the box shows it
         players.cboPlayer[1]->setCurrentIndex(players.cboPlayer[1]->findText(frmPlayers::tr("< Player %1 >").arg(2)));
         players.cmdPlay->click();
@@ -172,4 +142,5 @@ TEST_F(InEachLanguage, PlaceholdersAreStoredInEnglish)
         form.close();   // saves the setup
         EXPECT_EQ(Sql("SELECT PlayerName FROM PlayersInUse ORDER BY PlayerNumber"), "< Player 1 >;< Player 2 >");
     }
+    LoadLanguage(QLocale("en"));
 }

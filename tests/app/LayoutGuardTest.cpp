@@ -8,19 +8,16 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QMenuBar>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
-#include <functional>
 #include <memory>
-#include <optional>
 
 #include "CaptionFit.h"
 #include "DataFileFixture.h"
 #include "Frame.h"
-#include "Label.h"
 #include "Languages.h"
 #include "QtServices.h"
 #include "frmAbout.h"
@@ -34,77 +31,73 @@
 #include "modCommon.h"
 
 namespace {
-// One row of the table.
-struct Expected {
-    QString name, kind;          // kind: "control", "line" or "menu"
-    QList<int> numbers;          // left, top, width, height; or x1, y1, x2, y2
-    QString align, caption, shortcut;
-    bool shown = true;
-    QString comment;             // tells equal English captions apart in the translation files
-};
+using Row = QStringList;   // the words of a row of the table; a quoted text is one word
 struct Case {
-    QString id, title;
-    int width = 0, height = 0;
-    QList<Expected> controls;
+    Row window;   // window, case, class, client width and height, title
+    QList<Row> controls;
 };
-
-// The words of a row; a quoted text is one word, without its quotes.
-QStringList Words(const QString& row)
-{
-    static const QRegularExpression word(R"("([^"]*)\"|(\S+))");
-    QStringList words;
-    for (const auto& m : word.globalMatch(row))
-        words << (m.capturedStart(1) >= 0 ? m.captured(1) : m.captured(2));
-    return words;
-}
 
 QList<Case> ReadLayout()
 {
+    static const QRegularExpression word(R"("([^"]*)\"|(\S+))");
     QFile file(ZARVO_LAYOUT_TABLE);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << ZARVO_LAYOUT_TABLE;
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << ZARVO_LAYOUT_TABLE;
     QList<Case> cases;
-    for (const QString& row : QString::fromUtf8(file.readAll()).split('\n')) {
-        const QStringList w = Words(row);
-        if (w.isEmpty() || w[0].startsWith('#'))
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
+        Row row;
+        for (const auto& m : word.globalMatch(line))
+            row << (m.capturedStart(1) >= 0 ? m.captured(1) : m.captured(2));
+        if (row.isEmpty() || row[0].startsWith('#'))
             continue;
-        if (w[0] == "window") {
-            cases.append({w[1], w[4], w[2].toInt(), w[3].toInt(), {}});
-        } else if (w[1] == "line") {
-            cases.last().controls.append({w[0], w[1], {w[2].toInt(), w[3].toInt(), w[4].toInt(), w[5].toInt()}});
-        } else if (w[1] == "menu") {
-            cases.last().controls.append({w[0], w[1], {}, "-", w[2], w[3]});
-        } else {
-            Expected e{w[0], "control", {w[1].toInt(), w[2].toInt(), w[3].toInt(), w[4].toInt()}, w[5], w[7]};
-            e.shown = w[6] == "shown";
-            e.comment = w.value(8);
-            cases.last().controls.append(e);
-        }
+        if (row[0] == "window")
+            cases.append({row, {}});
+        else
+            cases.last().controls.append(row);
     }
     return cases;
 }
 
-// The controls a window names as the game's own: lbl, cmd, img, pic, fra, cbo, txt, mnu and lines.
-bool IsNamedControl(const QObject* o)
+QString CaptionOf(const QObject* o)
 {
-    static const QRegularExpression own("^((lbl|blb|cmd|img|pic|fra|cbo|txt|lin|mnu)[A-Z0-9]|Line\\d)");
-    return own.match(o->objectName()).hasMatch();
-}
-
-QString AlignmentName(Align a) { return a == Align::Left ? "left" : a == Align::Centre ? "centre" : "right"; }
-
-QString CaptionOf(const QWidget* w)
-{
-    if (auto* label = qobject_cast<const Label*>(w))
+    if (auto* label = qobject_cast<const Label*>(o))
         return label->Caption();
-    if (auto* frame = dynamic_cast<const Frame*>(w))
+    if (auto* frame = dynamic_cast<const Frame*>(o))
         return frame->Caption();
-    if (auto* button = qobject_cast<const QPushButton*>(w))
+    if (auto* button = qobject_cast<const QPushButton*>(o))
         return button->text();
-    if (auto* box = qobject_cast<const QComboBox*>(w))
+    if (auto* box = qobject_cast<const QComboBox*>(o))
         return box->currentText();
-    if (auto* text = qobject_cast<const QLineEdit*>(w))
+    if (auto* text = qobject_cast<const QLineEdit*>(o))
         return text->text();
     return "-";
+}
+
+// A control as the window shows it, in the words of its row: a line's ends, a menu entry's
+// caption and shortcut, or the twips, alignment, visibility and caption of any other control.
+Row Observed(const QObject* o)
+{
+    const auto n = [](int twips) { return QString::number(twips); };
+    if (auto* line = dynamic_cast<const Line*>(o))
+        return {o->objectName(), "line", n(line->X1()), n(line->Y1()), n(line->X2()), n(line->Y2())};
+    if (auto* menu = qobject_cast<const QMenu*>(o))
+        return {o->objectName(), "menu", menu->menuAction()->text(), "-"};
+    if (auto* item = qobject_cast<const QAction*>(o))
+        return {o->objectName(), "menu", item->text(), item->shortcut().isEmpty() ? "-" : item->shortcut().toString()};
+    const auto* w = static_cast<const QWidget*>(o);
+    const TwipRect at = PlaceOf(w);
+    const auto* label = qobject_cast<const Label*>(w);
+    const Align a = label ? label->Alignment() : Align::Left;
+    return {o->objectName(), n(at.left), n(at.top), n(at.width), n(at.height),
+            !label ? "-" : a == Align::Left ? "left" : a == Align::Centre ? "centre" : "right",
+            w->isHidden() ? "hidden" : "shown", CaptionOf(w)};
+}
+
+QStringList CaptionsOf(const QList<QAction*>& actions)
+{
+    QStringList texts;
+    for (const QAction* action : actions)
+        texts << action->text();
+    return texts;
 }
 
 // The letters after "&" in these texts, the access keys, are all different.
@@ -119,138 +112,106 @@ void ExpectUniqueKeys(const QStringList& texts, const std::string& where)
 
 // A caption that shows fits: a label's ink lies within it, a button's or frame's text within
 // its margins.
-void ExpectFits(const QWidget* w, const QString& where)
+void ExpectFits(const QWidget* w, const std::string& where)
 {
-    if (!w->isVisible())
-        return;
-    const QString text = QString(CaptionOf(w)).remove('&');
-    if (auto* label = qobject_cast<const Label*>(w)) {
-        if (!text.isEmpty())
-            EXPECT_TRUE(w->height() > 0 && InkFits(label)) << where.toStdString() << " does not hold \"" << text.toStdString() << '"';
-    } else if (qobject_cast<const QPushButton*>(w) || dynamic_cast<const Frame*>(w)) {
-        const int margin = qobject_cast<const QPushButton*>(w) ? 8 : 16;
-        EXPECT_LE(QFontMetrics(w->font()).horizontalAdvance(text), w->width() - margin) << where.toStdString();
-    }
+    const QString text = CaptionOf(w).remove('&');
+    if (auto* label = qobject_cast<const Label*>(w); label && !text.isEmpty())
+        EXPECT_TRUE(InkFits(label)) << where << " does not hold \"" << text.toStdString() << '"';
+    else if (qobject_cast<const QPushButton*>(w) || dynamic_cast<const Frame*>(w))
+        EXPECT_LE(QFontMetrics(w->font()).horizontalAdvance(text), w->width() - (dynamic_cast<const Frame*>(w) ? 16 : 8)) << where;
+}
+
+// The table's English text as a window of `context` must show it: its translation where the
+// language has one; a text built at run time ("Player 1's Scoreboard") is compared in English only.
+QString Shown(const QString& english, const QString& shown, const QString& context, const QString& comment = {})
+{
+    const QString translated = QCoreApplication::translate(context.toUtf8().constData(), english.toUtf8().constData(),
+                                                           comment.isEmpty() ? nullptr : comment.toUtf8().constData());
+    return UiLanguage() != "en" && translated == english ? shown : translated;
 }
 
 class LayoutGuard : public DataFileFixture {
 protected:
     // Opens the window of a case in its state; owner is the game table some dialogs need.
-    // The window's class names the context of its texts in the translation files.
-    QWidget* Open(const QString& id, const char*& context)
+    QWidget* Open(const Row& window)
     {
-        const QStringList part = id.split('-');
+        const QStringList part = window[1].split('-');
         fs::remove(DataPath());
-        if (part[0] != "main" && !id.endsWith("nofile"))
+        if (part[0] != "main" && part.last() != "nofile")
             MakeFreshFile();
         owner = std::make_unique<frmMain>();
         owner->Form_Load();
-        const int players = part.size() > 1 ? part[1].toInt() : 1;
-        gPlayerNames.ReDim(std::max(players, 1));
+        gPlayerNames.ReDim(part.size() > 1 ? std::max(part[1].toInt(), 1) : 1);
         for (int p = 1; p <= gPlayerNames.UBound(); ++p)
-            gPlayerNames[p] = "< Player " + std::to_string(p) + " >";
+            gPlayerNames[p] = PlaceholderName(p);
         gScores.ReDim(gPlayerNames.UBound()), ClearScoreboard(), ClearSessionStats(), gCurrentPlayer = 1;
         gHighScoreName = "Player 1";
-        const std::tuple<const char*, const char*, std::function<QWidget*()>> windows[] = {
-            {"main", "frmMain", [this] { return owner.get(); }},
-            {"players", "frmPlayers", [this] { return new frmPlayers(owner.get(), owner->Logic()); }},
-            {"results", "frmPlayerResults", [this] {
-                 auto* results = new frmPlayerResults(owner.get());
-                 results->ShowValues();
-                 return results;
-             }},
-            {"notify", "frmHighScoreNotify", [this] { return new frmHighScoreNotify(owner.get()); }},
-            {"highscores", "frmHighScores", [this] { return new frmHighScores(owner.get()); }},
-            {"summary", "frmSummary", [this] { return new frmSummary(owner.get()); }},
-            {"newgame", "frmNewGame", [this] { return new frmNewGame(owner.get()); }},
-            {"about", "frmAbout", [this] { return new frmAbout(owner.get()); }},
-        };
-        for (const auto& [name, className, open] : windows)
-            if (part[0] == name) {
-                context = className;
-                return open();
-            }
-        ADD_FAILURE() << "no window for " << id.toStdString();
-        return nullptr;
-    }
-
-    // The table's English text as the window must show it: its translation where the language has
-    // one; a text built at run time ("Player 1's Scoreboard") is compared in English only.
-    static std::optional<QString> Shown(const QString& english, const char* context, const QString& comment = {})
-    {
-        const QString translated = QCoreApplication::translate(
-            context, english.toUtf8().constData(), comment.isEmpty() ? nullptr : comment.toUtf8().constData());
-        if (UiLanguage() != "en" && translated == english)
-            return std::nullopt;
-        return translated;
+        const QString& name = window[2];
+        QWidget* w = name == "frmMain" ? owner.get()
+                     : name == "frmPlayers" ? new frmPlayers(owner.get(), owner->Logic())
+                     : name == "frmHighScoreNotify" ? new frmHighScoreNotify(owner.get())
+                     : name == "frmHighScores" ? new frmHighScores(owner.get())
+                     : name == "frmSummary" ? new frmSummary(owner.get())
+                     : name == "frmNewGame" ? new frmNewGame(owner.get())
+                     : name == "frmAbout" ? static_cast<QWidget*>(new frmAbout(owner.get())) : nullptr;
+        if (name == "frmPlayerResults") {
+            auto* results = new frmPlayerResults(owner.get());
+            results->ShowValues();
+            w = results;
+        }
+        return w;
     }
 
     void Check(const Case& c)
     {
-        const char* context = nullptr;
-        QWidget* window = Open(c.id, context);
-        ASSERT_TRUE(window);
+        const QString& context = c.window[2];
+        QWidget* window = Open(c.window);
+        ASSERT_TRUE(window) << c.window[2].toStdString();
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         const auto* main = qobject_cast<QMainWindow*>(window);
-        const QWidget* client = main ? main->centralWidget() : window->findChild<QWidget*>("imgMain")
-                                                                   ? window->findChild<QWidget*>("imgMain")->parentWidget()
-                                                                   : window;
-        EXPECT_EQ(std::tuple(PixelsToTwips(client->width()), PixelsToTwips(client->height()), window->windowTitle().toStdString()),
-                  std::tuple(c.width, c.height, Shown(c.title, context).value_or(window->windowTitle()).toStdString()));
+        const QWidget* client = main                    ? main->centralWidget()
+                                : context == "frmAbout" ? window->findChild<QWidget*>("imgMain")->parentWidget()
+                                                        : window;   // the About box's border lies around its client area
+        EXPECT_EQ(Row({QString::number(PixelsToTwips(client->width())), QString::number(PixelsToTwips(client->height())),
+                       window->windowTitle()}).join('|').toStdString(),
+                  Row({c.window[3], c.window[4], Shown(c.window[5], window->windowTitle(), context)}).join('|').toStdString());
         QSet<QString> listed;
         QStringList keys;   // the captions of the window's buttons
-        for (const Expected& e : c.controls) {
-            const std::string where = (c.id + " " + e.name).toStdString();
-            listed << e.name;
-            if (e.kind == "menu") {
-                auto* item = window->findChild<QObject*>(e.name);
-                auto* action = qobject_cast<QAction*>(item) ? qobject_cast<QAction*>(item)
-                                                            : item ? qobject_cast<QMenu*>(item)->menuAction() : nullptr;
-                ASSERT_TRUE(action) << where;
-                EXPECT_EQ(std::tuple(action->text().toStdString(), action->shortcut().toString().toStdString()),
-                          std::tuple(Shown(e.caption, context).value_or(action->text()).toStdString(),
-                                     e.shortcut == "-" ? "" : e.shortcut.toStdString())) << where;
-                continue;
+        for (const Row& row : c.controls) {
+            const std::string where = (c.window[1] + " " + row[0]).toStdString();
+            listed << row[0];
+            const QObject* o = window->findChild<QObject*>(row[0]);
+            ASSERT_TRUE(o) << where << " is missing";
+            const Row seen = Observed(o);
+            Row expected = row.mid(0, seen.size());
+            const qsizetype caption = seen[1] == "menu" ? 2 : 7, align = 5;
+            if (caption < expected.size())
+                expected[caption] = expected[caption] == "*" || expected[caption] == "-"
+                                        ? seen[caption] : Shown(expected[caption], seen[caption], context, row.value(8));
+            if (seen[1] != "menu" && seen[1] != "line" && expected.value(align) == "-")
+                expected[align] = seen[align];
+            EXPECT_EQ(seen.join('|').toStdString(), expected.join('|').toStdString()) << where;
+            if (const auto* w = qobject_cast<const QWidget*>(o); w && seen.size() == 8) {
+                const TwipRect at = PlaceOf(w);   // the pixels stand where the twips say
+                EXPECT_EQ(w->geometry(), QRect(TwipsToPixels(at.left), TwipsToPixels(at.top), TwipsToPixels(at.width),
+                                               TwipsToPixels(at.height))) << where;
+                if (w->isVisible())
+                    ExpectFits(w, where);
+                if (qobject_cast<const QPushButton*>(w) && w->isVisible())
+                    keys << CaptionOf(w);
             }
-            const QWidget* w = window->findChild<QWidget*>(e.name);
-            ASSERT_TRUE(w) << where << " is missing";
-            if (e.kind == "line") {
-                const auto* line = dynamic_cast<const Line*>(w);
-                ASSERT_TRUE(line) << where;
-                EXPECT_EQ(QList<int>({line->X1(), line->Y1(), line->X2(), line->Y2()}), e.numbers) << where;
-                continue;
-            }
-            const TwipRect place = PlaceOf(w);
-            EXPECT_EQ(QList<int>({place.left, place.top, place.width, place.height}), e.numbers) << where;
-            // The pixels stand where the twips say.
-            EXPECT_EQ(w->geometry(), QRect(TwipsToPixels(place.left), TwipsToPixels(place.top),
-                                           TwipsToPixels(place.width), TwipsToPixels(place.height))) << where;
-            EXPECT_EQ(!w->isHidden(), e.shown) << where;
-            if (auto* label = qobject_cast<const Label*>(w); label && e.align != "-")
-                EXPECT_EQ(AlignmentName(label->Alignment()).toStdString(), e.align.toStdString()) << where;
-            if (e.caption != "*" && e.caption != "-")
-                EXPECT_EQ(CaptionOf(w).toStdString(), Shown(e.caption, context, e.comment).value_or(CaptionOf(w)).toStdString())
-                    << where;
-            ExpectFits(w, c.id + " " + e.name);
-            if (qobject_cast<const QPushButton*>(w) && !w->isHidden())
-                keys << CaptionOf(w);
         }
-        ExpectUniqueKeys(keys, c.id.toStdString());
-        if (auto* bar = main ? main->menuBar() : nullptr) {
-            QStringList menus;
-            for (QAction* menu : bar->actions()) {
-                menus << menu->text();
-                QStringList items;
-                for (QAction* item : menu->menu()->actions())
-                    items << item->text();
-                ExpectUniqueKeys(items, menu->text().toStdString());
-            }
-            ExpectUniqueKeys(menus, "the menu bar");
+        ExpectUniqueKeys(keys, c.window[1].toStdString());
+        if (main) {
+            ExpectUniqueKeys(CaptionsOf(main->menuBar()->actions()), "the menu bar");
+            for (const QAction* menu : main->menuBar()->actions())
+                ExpectUniqueKeys(CaptionsOf(menu->menu()->actions()), menu->text().toStdString());
         }
+        static const QRegularExpression own("^((lbl|blb|cmd|img|pic|fra|cbo|txt|lin|mnu)[A-Z0-9]|Line\\d)");
         for (const QObject* o : window->findChildren<QObject*>())
-            if (IsNamedControl(o))
-                EXPECT_TRUE(listed.contains(o->objectName())) << (c.id + " " + o->objectName()).toStdString() << " is not in the table";
+            EXPECT_TRUE(!own.match(o->objectName()).hasMatch() || listed.contains(o->objectName()))
+                << c.window[1].toStdString() << " " << o->objectName().toStdString() << " is not in the table";
         if (window != owner.get())
             delete window;
         owner.reset();
@@ -269,7 +230,7 @@ TEST_F(LayoutGuard, EveryWindowAsTheTableDrawsItInEveryLanguage)
         LoadLanguage(QLocale(language));
         ASSERT_EQ(UiLanguage(), language);
         for (const Case& c : cases) {
-            SCOPED_TRACE(std::string(language) + " " + c.id.toStdString());
+            SCOPED_TRACE(std::string(language) + " " + c.window[1].toStdString());
             Check(c);
         }
     }
