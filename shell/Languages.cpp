@@ -23,10 +23,12 @@ std::vector<std::unique_ptr<QTranslator>>& Installed()
     return translators;
 }
 
+// Only the file of exactly this name: QTranslator would fall back from "zarvo_de_DE" to
+// "zarvo_de" on its own, and the language in force would not be the one loaded.
 bool Install(const QString& file, const QString& folder)
 {
     auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(file, folder) || !QCoreApplication::installTranslator(translator.get()))
+    if (!QFileInfo::exists(folder + '/' + file + ".qm") || !translator->load(file, folder) || !QCoreApplication::installTranslator(translator.get()))
         return false;
     Installed().push_back(std::move(translator));
     return true;
@@ -42,15 +44,17 @@ void LoadLanguage(const QLocale& locale)
     const QString ours = QString::fromStdString(AppFile("translations"));
     const QString qts = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     for (const QString& name : locale.uiLanguages()) {
-        const QString language = QLocale(name).name().section('_', 0, 0);
-        if (language == "en" || language == "C")
+        const QLocale wanted(name);
+        if (wanted.language() == QLocale::English || wanted.language() == QLocale::C)
             return;
-        if (Install("zarvo_" + language, ours)) {
-            Language() = language;
-            Install("qtbase_" + language, qts);
-            Install("qt_help_" + language, qts);
-            return;
-        }
+        // "pt_BR" before "pt": a language kept apart by country is asked for by its full name.
+        for (const QString& language : {wanted.name(), wanted.name().section('_', 0, 0)})
+            if (Install("zarvo_" + language, ours)) {
+                Language() = language;
+                Install("qtbase_" + language, qts);
+                Install("qt_help_" + language, qts);
+                return;
+            }
     }
 }
 

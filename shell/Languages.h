@@ -11,7 +11,7 @@ class QLocale;
 // Takes the first of the locale's languages that is English or that Zarvo is translated into,
 // in place of the language loaded before.
 void LoadLanguage(const QLocale& locale);
-// The language in force: "en", "de" or "fr".
+// The language in force: "en", or the name of its translation ("de", "pt_BR").
 QString UiLanguage();
 // The help in the language in force: Zarvo_<language>.hlp beside the program where there is
 // one, else Zarvo.hlp.

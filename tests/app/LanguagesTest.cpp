@@ -1,4 +1,4 @@
-// Zarvo in English, German and French: the translation files are complete and keep each text's
+// Zarvo in every language of Languages.txt: the translation files are complete and keep each text's
 // marks; in each language a turn is rolled, accepted and scored, every line the results window
 // can show fits it, and the data file keeps its placeholders in English whatever the language.
 #include <QFile>
@@ -10,6 +10,7 @@
 #include "CaptionFit.h"
 #include "DataFileFixture.h"
 #include "Languages.h"
+#include "TableFile.h"
 #include "Translate.h"
 #include "frmMain.h"
 #include "frmPlayerResults.h"
@@ -57,45 +58,34 @@ QString Marks(const QString& text)
            QString::number(QString(text).remove("&&").count('&'));
 }
 
-// What each language shows of a first turn: the button after the roll, the title of the
-// question that "Accept" brings, and the prompt of the placeholder player 1.
-struct Shown {
-    const char* language;
-    const char* accept;
-    const char* confirm;
-    const char* prompt;
-};
-const Shown Languages[] = {
-    {"en", "Accept", "Zarvo - Confirm", "Player 1's turn. Please roll."},
-    {"de", "Annehmen", "Zarvo - Bestätigen", "Spieler 1 ist dran. Bitte würfeln."},
-    {"fr", "Accepter", "Zarvo - Confirmation", "À Joueur 1 de jouer. Lancez les dés."},
-};
-
 using InEachLanguage = DataFileFixture;
 }
 
-// Every text of the sources is translated, finished, in both files, with the marks of its English.
+// Every text of the sources is translated, finished, in every file, with the marks of its English.
 TEST(Translations, CompleteAndKeepTheirMarks)
 {
-    const auto german = ReadTranslations("de"), french = ReadTranslations("fr");
-    ASSERT_GT(german.size(), 150);
-    ASSERT_EQ(german.size(), french.size());
-    for (qsizetype i = 0; i < german.size(); ++i) {
-        for (const auto& m : {german[i], french[i]}) {
-            const std::string where = (m["context"] + ": " + m["source"]).toStdString();
+    const QList<QStringList> languages = ReadTable(ZARVO_LANGUAGES_TABLE);
+    const auto first = ReadTranslations(languages.value(1).value(0));
+    ASSERT_GT(first.size(), 150);
+    for (const QStringList& language : languages.mid(1)) {
+        const auto messages = ReadTranslations(language[0]);
+        ASSERT_EQ(messages.size(), first.size()) << language[0].toStdString();
+        for (qsizetype i = 0; i < messages.size(); ++i) {
+            const auto& m = messages[i];
+            const std::string where = (language[0] + " " + m["context"] + ": " + m["source"]).toStdString();
             EXPECT_TRUE(m["type"].isEmpty() && !m["translation"].isEmpty()) << where << " is not translated";
             EXPECT_EQ(Marks(m["translation"]).toStdString(), Marks(m["source"]).toStdString()) << where;
+            for (const char* element : {"context", "source", "comment"})
+                EXPECT_EQ(m[element], first[i][element]) << where;
         }
-        for (const char* element : {"context", "source", "comment"})
-            EXPECT_EQ(german[i][element], french[i][element]) << german[i]["source"].toStdString();
     }
 }
 
 // In each language the player reads the game in it while the logic goes by its English texts:
 // the remembered placeholder player is asked to roll, "Accept" brings its question, a boxed cell
 // is scored, and every comment line of the results window fits. A placeholder chosen in the
-// player dialog is stored in English: the file written under English reads the same under
-// German, and German's under French.
+// player dialog is stored in English: the file written under one language reads the same under
+// the next.
 TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
 {
     fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
@@ -106,20 +96,21 @@ TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
         titles.push_back(title);
         return int(vbYes);
     });
-    for (const Shown& shown : Languages) {
-        SCOPED_TRACE(shown.language);
-        LoadLanguage(QLocale(shown.language));
+    for (const QStringList& language : ReadTable(ZARVO_LANGUAGES_TABLE)) {
+        const std::string accept = language[1].toStdString(), confirm = language[2].toStdString();
+        SCOPED_TRACE(language[0].toStdString());
+        LoadLanguage(QLocale(language[0]));
         frmMain form;
         form.Form_Load();
         form.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
-        EXPECT_EQ(form.lblPleaseRoll->Caption().toStdString(), shown.prompt);
+        EXPECT_EQ(form.lblPleaseRoll->Caption(), language[3]);
         form.cmdRoll->click();
         form.Logic().tmrRoll_Timer();   // no animation: the roll ends on its first tick
-        EXPECT_EQ(form.cmdRoll->text().toStdString(), shown.accept);
+        EXPECT_EQ(form.cmdRoll->text().toStdString(), accept);
         titles.clear();
         form.cmdRoll->click();   // no die marked: the question, answered Yes
-        ASSERT_EQ(titles, std::vector<std::string>{shown.confirm});
+        ASSERT_EQ(titles, std::vector<std::string>{confirm});
         QTest::mouseClick(form.Cell(CatChance), Qt::LeftButton);
         EXPECT_NE(gScores[1][CatChance], EmptyCell);
 

@@ -1,11 +1,10 @@
 // Every window of the game against the layout table (WindowLayout.txt): each named control at
 // its rectangle in twips, with its caption, alignment and visibility, and no control that the
 // table does not name; every caption that shows must fit its control, and no two access keys of
-// a window or menu may be the same. It runs in English, German and French, where a caption is
-// the translation of the table's; and once more at twice the pixel density.
+// a window or menu may be the same. It runs in every language of Languages.txt, where a caption
+// is the translation of the table's; and once more at twice the pixel density.
 #include <QAction>
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -20,6 +19,7 @@
 #include "Frame.h"
 #include "Languages.h"
 #include "QtServices.h"
+#include "TableFile.h"
 #include "frmAbout.h"
 #include "frmHighScoreNotify.h"
 #include "frmHighScores.h"
@@ -39,21 +39,12 @@ struct Case {
 
 QList<Case> ReadLayout()
 {
-    static const QRegularExpression word(R"("([^"]*)\"|(\S+))");
-    QFile file(ZARVO_LAYOUT_TABLE);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << ZARVO_LAYOUT_TABLE;
     QList<Case> cases;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        Row row;
-        for (const auto& m : word.globalMatch(line))
-            row << (m.capturedStart(1) >= 0 ? m.captured(1) : m.captured(2));
-        if (row.isEmpty() || row[0].startsWith('#'))
-            continue;
+    for (const Row& row : ReadTable(ZARVO_LAYOUT_TABLE))
         if (row[0] == "window")
             cases.append({row, {}});
         else
             cases.last().controls.append(row);
-    }
     return cases;
 }
 
@@ -226,11 +217,11 @@ TEST_F(LayoutGuard, EveryWindowAsTheTableDrawsItInEveryLanguage)
     fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
     const QList<Case> cases = ReadLayout();
     ASSERT_EQ(cases.size(), 13);
-    for (const char* language : {"en", "de", "fr"}) {
-        LoadLanguage(QLocale(language));
-        ASSERT_EQ(UiLanguage(), language);
+    for (const Row& language : ReadTable(ZARVO_LANGUAGES_TABLE)) {
+        LoadLanguage(QLocale(language[0]));
+        ASSERT_EQ(UiLanguage(), language[0]);
         for (const Case& c : cases) {
-            SCOPED_TRACE(std::string(language) + " " + c.window[1].toStdString());
+            SCOPED_TRACE((language[0] + " " + c.window[1]).toStdString());
             Check(c);
         }
     }

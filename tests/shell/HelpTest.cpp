@@ -17,33 +17,28 @@
 #include "ModalAnswer.h"
 #include "QtServices.h"
 #include "Scoring.h"
+#include "TableFile.h"
 #include "WindowFixture.h"
 #include "frmAbout.h"
 
 namespace {
-// The help of a language: its file, and what its index finds for "Full House" and for the option
-// Remember Players, by their names in that language.
-struct HelpLanguage {
-    const char* language;
-    const char* file;
-    const char* rememberPlayers;
-};
-const HelpLanguage HelpLanguages[] = {
-    {"en", "Zarvo.hlp", "Remember Players"},
-    {"de", "Zarvo_de.hlp", "Spieler merken"},
-    {"fr", "Zarvo_fr.hlp", "Mémoriser les joueurs"},
-};
+// A row of Languages.txt: the language, then what the game shows; its last word is what its help's
+// index finds the option Remember Players by.
+using HelpLanguage = QStringList;
 
 class Help : public testing::TestWithParam<HelpLanguage> {
 protected:
     void SetUp() override
     {
-        if (translator.load(QString("zarvo_") + GetParam().language, ZARVO_TRANSLATIONS))
+        if (translator.load("zarvo_" + GetParam()[0], ZARVO_TRANSLATIONS))
             QCoreApplication::installTranslator(&translator);
     }
     void TearDown() override { QCoreApplication::removeTranslator(&translator); }
 
-    QString HelpFile() const { return QString(ZARVO_BIN_DIR) + "/" + GetParam().file; }
+    QString HelpFile() const
+    {
+        return QString(ZARVO_BIN_DIR) + (GetParam()[0] == "en" ? "/Zarvo.hlp" : "/Zarvo_" + GetParam()[0] + ".hlp");
+    }
     QTranslator translator;
 };
 }
@@ -65,7 +60,7 @@ TEST_P(Help, ContentsIndexAndSearchFindThePages)
     }
     EXPECT_EQ(items.size(), 20);
     EXPECT_EQ(engine.documentsForKeyword("Full House").value(0).url.fileName(), "fullhouse.html");
-    EXPECT_EQ(engine.documentsForKeyword(GetParam().rememberPlayers).value(0).url.fileName(), "players.html");
+    EXPECT_EQ(engine.documentsForKeyword(GetParam().last()).value(0).url.fileName(), "players.html");
     search->search("bonus");
     ASSERT_TRUE(found.wait(10000));
     const QList<QHelpSearchResult> results = search->searchResults(0, search->searchResultCount());
@@ -99,8 +94,8 @@ TEST_P(Help, ScoringExamplesAgreeWithTheRules)
     EXPECT_EQ(covered.size(), CategoryCount) << covered.join(", ").toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(EachLanguage, Help, testing::ValuesIn(HelpLanguages),
-                         [](const auto& info) { return std::string(info.param.language); });
+INSTANTIATE_TEST_SUITE_P(EachLanguage, Help, testing::ValuesIn(ReadTable(ZARVO_LANGUAGES_TABLE)),
+                         [](const auto& info) { return info.param[0].toStdString(); });
 
 // F1 opens the help beside the game at its contents page, and again after another page was
 // read, and in the player's language; About has no title bar, stands centred and closes by OK
