@@ -67,11 +67,10 @@ frmMain::frmMain()
         WakeRollTimer();
     });
 
-    picDisplayer = new QFrame(client);
+    picDisplayer = NewDiceField(client);
     Place(picDisplayer, {150, 120, 4275, 1755});
     picDisplayer->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     picDisplayer->setLineWidth(PanelBorderPixels);
-    picDisplayer->setAccessibleName(tr("Dice"));
     auto* field = new QWidget(picDisplayer);
     field->setGeometry(picDisplayer->rect().adjusted(PanelBorderPixels, PanelBorderPixels,
                                                      -PanelBorderPixels, -PanelBorderPixels));
@@ -116,6 +115,8 @@ void frmMain::DrawDieFaces()
 
 bool frmMain::event(QEvent* event)
 {
+    if (event->type() == QEvent::WindowActivate)
+        voice_.Refocus();
     // Moved to a screen of another density: the faces are drawn anew for it.
     if (event->type() == QEvent::ScreenChangeInternal && ilsDie[1].devicePixelRatio() != devicePixelRatioF()) {
         DrawDieFaces();
@@ -154,7 +155,7 @@ void frmMain::CreateDiceField(QWidget* field)
     for (int i = 0; i < 5; ++i) {
         imgDie[i] = NewLabel(field, {DieColumnLeft(i), KeepRow, 615, 615});
         imgDie[i]->SetPicture(ilsDie[i + 1]);
-        NameDie(i);
+        dieFace_[i] = i + 1;
         connect(imgDie[i], &Label::MouseUp, this, [this, i](int button) {
             logic_.imgDie_MouseUp(i, button);
             WakeRollTimer();
@@ -214,6 +215,8 @@ void frmMain::CreateScoreboard()
     lblRightTotal = NewLabel(frame, {3720, 750, 375, 255}, {}, Align::Right);
     lblBonusTotal = NewLabel(frame, {3720, 990, 375, 255}, {}, Align::Right);
     lblTotal = NewLabel(frame, {3720, 1470, 375, 255}, {}, Align::Right);
+    for (Label* total : {lblLeftTotal, lblRightTotal, lblBonusTotal, lblTotal})
+        total->setFocusPolicy(Qt::TabFocus);   // Tab reaches them, for a screen reader to say
     SetArrayName(lblLeft, "lblLeft");
     SetArrayName(lblRight, "lblRight");
     SetNames({{lblLeftLbl, "lblLeftLbl"}, {lblRightLbl, "lblRightLbl"}, {lblBonusLbl, "lblBonusLbl"},
@@ -340,9 +343,13 @@ SetupMarks frmMain::Marks() const
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    const bool click = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease
+                       || event->type() == QEvent::MouseButtonDblClick;
+    if (click)
+        return !diceFieldEnabled_ && widget && picDisplayer->isAncestorOf(widget);
     if (event->type() != QEvent::KeyPress)
         return false;
-    auto* widget = qobject_cast<QWidget*>(watched);
     // Keys for the menu bar (Alt navigation) and for other windows are not the game's.
     if (!widget || widget->window() != this || qobject_cast<QMenuBar*>(widget))
         return false;
@@ -395,11 +402,10 @@ void frmMain::SetCaption(Control c, const std::string& text)
     const QString caption = QString::fromStdString(text);
     if (auto* label = qobject_cast<Label*>(w)) {
         label->SetCaption(caption);
-        // A total is read with its row: "Left: 63".
         for (auto [total, row] : {std::pair{lblLeftTotal, lblLeftLbl}, {lblRightTotal, lblRightLbl},
                                   {lblBonusTotal, lblBonusLbl}, {lblTotal, lblTotalLbl}})
             if (label == total)
-                label->setAccessibleName(SpokenCaption(row->Caption()) + ": " + caption);
+                voice_.NameTotal(total, row);
     } else if (w == cmdRoll) {
         // The logic goes by the English caption; the player reads it in their language.
         rollCaption_ = text;
@@ -413,14 +419,22 @@ bool frmMain::Visible(Control c) const { return !ControlWidget(c)->isHidden(); }
 void frmMain::SetVisible(Control c, bool visible) { ControlWidget(c)->setVisible(visible); }
 bool frmMain::Enabled(Control c) const
 {
+    if (c == Control::picDisplayer)
+        return diceFieldEnabled_;
     return c == Control::mnuScoringSummary ? mnuScoringSummary->isEnabled() : ControlWidget(c)->isEnabled();
 }
 void frmMain::SetEnabled(Control c, bool enabled)
 {
-    if (c == Control::mnuScoringSummary)
-        mnuScoringSummary->setEnabled(enabled);
-    else
-        ControlWidget(c)->setEnabled(enabled);
+    if (c == Control::picDisplayer) {
+        diceFieldEnabled_ = enabled;   // eventFilter holds back the clicks
+        return;
+    }
+    QWidget* w = ControlWidget(c);
+    if (!w)
+        return mnuScoringSummary->setEnabled(enabled);
+    if (!enabled && w->hasFocus())
+        centralWidget()->setFocus();   // Qt would hand the focus on to the next control, a total
+    w->setEnabled(enabled);
 }
 
 bool frmMain::DieLabelsVisible() const { return !lblKeep[0]->isHidden(); }
@@ -439,7 +453,7 @@ void frmMain::SetDieLeft(int i, int left)
     TwipRect place = PlaceOf(imgDie[i]);
     place.left = left;
     Place(imgDie[i], place);
-    NameDie(i);
+    voice_.NameDie(i);
 }
 int frmMain::DieTop(int i) const { return PlaceOf(imgDie[i]).top; }
 void frmMain::SetDieTop(int i, int top)
@@ -447,7 +461,7 @@ void frmMain::SetDieTop(int i, int top)
     TwipRect place = PlaceOf(imgDie[i]);
     place.top = top;
     Place(imgDie[i], place);
-    NameDie(i);
+    voice_.NameDie(i);
 }
 void frmMain::SetDieVisible(int i, bool visible) { imgDie[i]->setVisible(visible); }
 
@@ -458,25 +472,9 @@ void frmMain::SetDiePicture(int i, ImageList list, int face)
     imgDie[i]->SetPicture(list == ImageList::ilsDie ? ilsDie[face] : ilsDieInv[face]);
     dieFace_[i] = face;
     dieCursor_[i] = list == ImageList::ilsDieInv;
-    NameDie(i);
-}
-
-void frmMain::NameDie(int i)
-{
-    static const char* const faces[] = {"", QT_TR_NOOP("one"), QT_TR_NOOP("two"), QT_TR_NOOP("three"),
-                                        QT_TR_NOOP("four"), QT_TR_NOOP("five"), QT_TR_NOOP("six")};
-    const QString face = tr(faces[dieFace_[i]]);
-    QString state;
-    if (DieLeft(i) == DieColumnLeft(i))
-        state = DieTop(i) == KeepRow ? tr("%1, kept").arg(face) : DieTop(i) == RollRow ? tr("%1, to roll").arg(face)
-                                                                                      : tr("%1, rolling").arg(face);
-    else if (DieLeft(i) == PileLeft && DieTop(i) == RollRow)
-        state = tr("on the pile");   // under die 3: no face to be seen
-    else
-        state = tr("rolling");       // on its way between its column and the pile
+    voice_.NameDie(i);
     if (dieCursor_[i])
-        state = tr("%1, under the cursor").arg(state);
-    imgDie[i]->setAccessibleName(tr("Die %1: %2").arg(i + 1).arg(state));
+        voice_.CursorOnDie(i);
 }
 
 void frmMain::RefreshDie(int i) { imgDie[i]->repaint(); }
@@ -490,13 +488,13 @@ std::string frmMain::CellCaption(int category) const { return Cell(category)->Ca
 void frmMain::SetCellCaption(int category, const std::string& text)
 {
     Cell(category)->SetCaption(QString::fromStdString(text));
-    NameCell(category);
+    voice_.NameCell(category);
 }
 int frmMain::CellBorderStyle(int category) const { return Cell(category)->BorderStyle(); }
 void frmMain::SetCellBorderStyle(int category, int style)
 {
     Cell(category)->SetBorderStyle(style);
-    NameCell(category);
+    voice_.NameCell(category);
 }
 int frmMain::CellTop(int category) const { return PlaceOf(Cell(category)).top; }
 void frmMain::SetCellTop(int category, int top) { AddToTop(Cell(category), top - CellTop(category)); }
@@ -505,26 +503,10 @@ void frmMain::SetCellBackColor(int category, std::uint32_t rgb) { Cell(category)
 void frmMain::SetCellForeColor(int category, std::uint32_t rgb)
 {
     Cell(category)->SetForeColor(Rgb(rgb));
-    NameCell(category);
+    if (rgb == QBColor(15))   // the cursor's white text
+        voice_.CursorOnCell(category);
 }
 
-// "Threes: 6" for a filled cell; while choosing, "Threes: open, would score 41" or "would
-// score nothing" for a boxed one, by the rule that chose its colour (under the key cursor the
-// colour no longer tells); the cursor's white text marks its cell.
-void frmMain::NameCell(int category)
-{
-    Label* cell = Cell(category);
-    const QString value = cell->Caption().trimmed();
-    QString state = value.isEmpty() ? tr("open") : value;
-    if (cell->BorderStyle() == 1) {
-        const bool scores = logic_.Evaluate(category).Sum() > 0;
-        state = !scores ? tr("open, would score nothing")
-                : value.isEmpty() ? tr("open, would score") : tr("open, would score %1").arg(value);
-    }
-    if (cell->ForeColor() == Rgb(QBColor(15)))
-        state = tr("%1, under the cursor").arg(state);
-    cell->setAccessibleName(SpokenCaption(lblCategoryNames[category - 1]->Caption()) + ": " + state);
-}
 void frmMain::SetCellToolTip(int category, const std::string& text)
 {
     Cell(category)->setToolTip(QString::fromStdString(text));
@@ -547,11 +529,13 @@ void frmMain::SetChecked(Option option, bool checked) { OptionItem(option)->setC
 void frmMain::SetFocusOnForm()
 {
     // Not on the screen yet (start-up), or behind a modal box that a roll has ended under:
-    // the step fails there and is ignored, so the box keeps the keys.
-    if (!isVisible() || QApplication::activeModalWidget())
-        return;
-    activateWindow();
-    centralWidget()->setFocus();
+    // the step fails there and is ignored, so the box keeps the keys. The game rests here,
+    // waiting for the player: the screen reader hears what has just happened.
+    if (isVisible() && !QApplication::activeModalWidget()) {
+        activateWindow();
+        centralWidget()->setFocus();
+    }
+    voice_.Settled();
 }
 
 // The dialogs belong to their own subsystems; without them (a window tested alone) nothing opens.

@@ -11,6 +11,7 @@
 #include "HelpDialog.h"
 #include "Label.h"
 #include "SavedSetup.h"
+#include "SpokenTable.h"
 
 class QAction;
 class QFrame;
@@ -95,6 +96,7 @@ public:
     void Unload() override;
 
     Label* Cell(int category) const;
+    int DieFace(int i) const { return dieFace_[i]; }   // the face its picture shows
 
 protected:
     bool event(QEvent* event) override;
@@ -112,14 +114,14 @@ private:
     void WakeRollTimer();
     void mnuInstructions_Click();
     void mnuAbout_Click();
-    // What a screen reader says of a die and of a cell, kept up to date with their looks.
-    void NameDie(int i);
-    void NameCell(int category);
 
     GameTable logic_{*this};
+    SpokenTable voice_{*this, logic_};
     Dialogs* dialogs_ = nullptr;
     std::array<int, 5> dieFace_{1, 2, 3, 4, 5};   // the face each die's picture shows
     std::array<bool, 5> dieCursor_{};             // the picture is the cursor look
     std::string rollCaption_;                     // cmdRoll's caption as the logic knows it
-
+    // picDisplayer's Enabled. Disabling the widget itself would send a screen reader a change
+    // of state for each of its thirty controls at every roll; its clicks are held back instead.
+    bool diceFieldEnabled_ = true;
 };

@@ -258,6 +258,93 @@ zu ihm gehen verloren.</translation>
     </message>
 </context>
 <context>
+    <name>SpokenTable</name>
+    <message>
+        <source>Rolling</source>
+        <translation>Es wird gewürfelt</translation>
+    </message>
+    <message>
+        <source>one</source>
+        <translation>eins</translation>
+    </message>
+    <message>
+        <source>two</source>
+        <translation>zwei</translation>
+    </message>
+    <message>
+        <source>three</source>
+        <translation>drei</translation>
+    </message>
+    <message>
+        <source>four</source>
+        <translation>vier</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>fünf</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>sechs</translation>
+    </message>
+    <message>
+        <source>Die %1: on the pile</source>
+        <translation>Würfel %1: auf dem Haufen</translation>
+    </message>
+    <message>
+        <source>Keep die %1: %2</source>
+        <translation>Würfel %1 halten: %2</translation>
+    </message>
+    <message>
+        <source>Die %1: %2</source>
+        <translation>Würfel %1: %2</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>open, would score nothing</source>
+        <translation>offen, brächte nichts</translation>
+    </message>
+    <message>
+        <source>open, would score %1 and a bonus of %2</source>
+        <translation>offen, brächte %1 und einen Bonus von %2</translation>
+    </message>
+    <message>
+        <source>open, would score %1</source>
+        <translation>offen, brächte %1</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation>Würfel</translation>
+    </message>
+    <message>
+        <source>No rolls left.</source>
+        <translation>Kein Wurf mehr.</translation>
+    </message>
+    <message>
+        <source>One roll left.</source>
+        <translation>Noch ein Wurf.</translation>
+    </message>
+    <message>
+        <source>Two rolls left.</source>
+        <translation>Noch zwei Würfe.</translation>
+    </message>
+    <message>
+        <source>Rolled %1.</source>
+        <translation>Gewürfelt: %1.</translation>
+    </message>
+    <message>
+        <source>%1: %2 and a bonus of %3 written.</source>
+        <translation>%1: %2 und ein Bonus von %3 eingetragen.</translation>
+    </message>
+    <message>
+        <source>%1: %2 written.</source>
+        <translation>%1: %2 eingetragen.</translation>
+    </message>
+</context>
+<context>
     <name>frmAbout</name>
     <message>
         <source>Version %1</source>
@@ -339,10 +426,6 @@ zu ihm gehen verloren.</translation>
     <message>
         <source>Roll or accept roll.</source>
         <translation>Würfeln oder den Wurf annehmen.</translation>
-    </message>
-    <message>
-        <source>Dice</source>
-        <translation>Würfel</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -544,74 +627,6 @@ zu ihm gehen verloren.</translation>
     <message>
         <source>Roll</source>
         <translation>Würfeln</translation>
-    </message>
-    <message>
-        <source>one</source>
-        <translation>eins</translation>
-    </message>
-    <message>
-        <source>two</source>
-        <translation>zwei</translation>
-    </message>
-    <message>
-        <source>three</source>
-        <translation>drei</translation>
-    </message>
-    <message>
-        <source>four</source>
-        <translation>vier</translation>
-    </message>
-    <message>
-        <source>five</source>
-        <translation>fünf</translation>
-    </message>
-    <message>
-        <source>six</source>
-        <translation>sechs</translation>
-    </message>
-    <message>
-        <source>%1, kept</source>
-        <translation>%1, gehalten</translation>
-    </message>
-    <message>
-        <source>%1, to roll</source>
-        <translation>%1, wird neu gewürfelt</translation>
-    </message>
-    <message>
-        <source>%1, rolling</source>
-        <translation>%1, rollt</translation>
-    </message>
-    <message>
-        <source>on the pile</source>
-        <translation>auf dem Haufen</translation>
-    </message>
-    <message>
-        <source>rolling</source>
-        <translation>rollt</translation>
-    </message>
-    <message>
-        <source>%1, under the cursor</source>
-        <translation>%1, unter dem Cursor</translation>
-    </message>
-    <message>
-        <source>Die %1: %2</source>
-        <translation>Würfel %1: %2</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>offen</translation>
-    </message>
-    <message>
-        <source>open, would score nothing</source>
-        <translation>offen, brächte nichts</translation>
-    </message>
-    <message>
-        <source>open, would score</source>
-        <translation>offen, brächte Punkte</translation>
-    </message>
-    <message>
-        <source>open, would score %1</source>
-        <translation>offen, brächte %1</translation>
     </message>
 </context>
 <context>

@@ -258,6 +258,93 @@ enregistrées pour lui seront perdues.</translation>
     </message>
 </context>
 <context>
+    <name>SpokenTable</name>
+    <message>
+        <source>Rolling</source>
+        <translation>Lancer en cours</translation>
+    </message>
+    <message>
+        <source>one</source>
+        <translation>un</translation>
+    </message>
+    <message>
+        <source>two</source>
+        <translation>deux</translation>
+    </message>
+    <message>
+        <source>three</source>
+        <translation>trois</translation>
+    </message>
+    <message>
+        <source>four</source>
+        <translation>quatre</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>cinq</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>six</translation>
+    </message>
+    <message>
+        <source>Die %1: on the pile</source>
+        <translation>Dé %1&#xa0;: sur le tas</translation>
+    </message>
+    <message>
+        <source>Keep die %1: %2</source>
+        <translation>Garder le dé %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Die %1: %2</source>
+        <translation>Dé %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>open, would score nothing</source>
+        <translation>libre, ne rapporterait rien</translation>
+    </message>
+    <message>
+        <source>open, would score %1 and a bonus of %2</source>
+        <translation>libre, rapporterait %1 et un bonus de %2</translation>
+    </message>
+    <message>
+        <source>open, would score %1</source>
+        <translation>libre, rapporterait %1</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation>Dés</translation>
+    </message>
+    <message>
+        <source>No rolls left.</source>
+        <translation>Plus aucun lancer.</translation>
+    </message>
+    <message>
+        <source>One roll left.</source>
+        <translation>Encore un lancer.</translation>
+    </message>
+    <message>
+        <source>Two rolls left.</source>
+        <translation>Encore deux lancers.</translation>
+    </message>
+    <message>
+        <source>Rolled %1.</source>
+        <translation>Lancer&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1: %2 and a bonus of %3 written.</source>
+        <translation>%1&#xa0;: %2 et un bonus de %3 inscrits.</translation>
+    </message>
+    <message>
+        <source>%1: %2 written.</source>
+        <translation>%1&#xa0;: %2 inscrit.</translation>
+    </message>
+</context>
+<context>
     <name>frmAbout</name>
     <message>
         <source>Version %1</source>
@@ -339,10 +426,6 @@ enregistrées pour lui seront perdues.</translation>
     <message>
         <source>Roll or accept roll.</source>
         <translation>Lancer les dés ou accepter le lancer.</translation>
-    </message>
-    <message>
-        <source>Dice</source>
-        <translation>Dés</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -544,74 +627,6 @@ enregistrées pour lui seront perdues.</translation>
     <message>
         <source>Roll</source>
         <translation>Lancer</translation>
-    </message>
-    <message>
-        <source>one</source>
-        <translation>un</translation>
-    </message>
-    <message>
-        <source>two</source>
-        <translation>deux</translation>
-    </message>
-    <message>
-        <source>three</source>
-        <translation>trois</translation>
-    </message>
-    <message>
-        <source>four</source>
-        <translation>quatre</translation>
-    </message>
-    <message>
-        <source>five</source>
-        <translation>cinq</translation>
-    </message>
-    <message>
-        <source>six</source>
-        <translation>six</translation>
-    </message>
-    <message>
-        <source>%1, kept</source>
-        <translation>%1, gardé</translation>
-    </message>
-    <message>
-        <source>%1, to roll</source>
-        <translation>%1, à relancer</translation>
-    </message>
-    <message>
-        <source>%1, rolling</source>
-        <translation>%1, roule</translation>
-    </message>
-    <message>
-        <source>on the pile</source>
-        <translation>sur le tas</translation>
-    </message>
-    <message>
-        <source>rolling</source>
-        <translation>roule</translation>
-    </message>
-    <message>
-        <source>%1, under the cursor</source>
-        <translation>%1, sous le curseur</translation>
-    </message>
-    <message>
-        <source>Die %1: %2</source>
-        <translation>Dé %1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>libre</translation>
-    </message>
-    <message>
-        <source>open, would score nothing</source>
-        <translation>libre, ne rapporterait rien</translation>
-    </message>
-    <message>
-        <source>open, would score</source>
-        <translation>libre, rapporterait des points</translation>
-    </message>
-    <message>
-        <source>open, would score %1</source>
-        <translation>libre, rapporterait %1</translation>
     </message>
 </context>
 <context>
