@@ -226,27 +226,27 @@ guardados de este jugador.</translation>
     </message>
     <message>
         <source>You bettered your overall average...</source>
-        <translation>Promedio general mejorado...</translation>
+        <translation>Mejora tu promedio general...</translation>
     </message>
     <message>
         <source>Brought your overall average down...</source>
-        <translation>Promedio general a la baja...</translation>
+        <translation>Baja tu promedio general...</translation>
     </message>
     <message>
         <source>Your overall average didn&apos;t change...</source>
-        <translation>Promedio general sin cambios...</translation>
+        <translation>Tu promedio general no cambia...</translation>
     </message>
     <message>
         <source>You bettered your session average...</source>
-        <translation>Promedio de la sesión mejorado...</translation>
+        <translation>Mejora tu promedio de la sesión...</translation>
     </message>
     <message>
         <source>Brought your session average down...</source>
-        <translation>Promedio de la sesión a la baja...</translation>
+        <translation>Baja tu promedio de la sesión...</translation>
     </message>
     <message>
         <source>Your session average didn&apos;t change...</source>
-        <translation>Promedio de la sesión sin cambios...</translation>
+        <translation>Tu promedio de la sesión no cambia...</translation>
     </message>
     <message>
         <source>%1&apos;s Results:</source>
@@ -254,7 +254,7 @@ guardados de este jugador.</translation>
     </message>
     <message>
         <source>%1 Scored: %2</source>
-        <translation>Puntuación de %1: %2</translation>
+        <translation>%1: %2 puntos</translation>
     </message>
 </context>
 <context>
@@ -269,7 +269,7 @@ guardados de este jugador.</translation>
     </message>
     <message>
         <source>Made by the Zarvo developers.</source>
-        <translation>Creado por los desarrolladores de Zarvo.</translation>
+        <translation>Por los desarrolladores de Zarvo.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -387,7 +387,7 @@ guardados de este jugador.</translation>
     </message>
     <message>
         <source>Fours....</source>
-        <translation>Cuatros..</translation>
+        <translation>Cuatros</translation>
     </message>
     <message>
         <source>Score total of fours showing.</source>
@@ -431,7 +431,7 @@ guardados de este jugador.</translation>
     </message>
     <message>
         <source>Two of a kind + three of a kind. (Score 25.)</source>
-        <translation>Dos iguales + tres iguales. (25 puntos.)</translation>
+        <translation>Una pareja + un trío. (25 puntos.)</translation>
     </message>
     <message>
         <source>Small Straight....</source>
@@ -511,7 +511,7 @@ guardados de este jugador.</translation>
     </message>
     <message>
         <source>Show &amp;Scoring Preview</source>
-        <translation>Mostrar la &amp;vista previa</translation>
+        <translation>Mostrar la &amp;vista previa de puntos</translation>
     </message>
     <message>
         <source>&amp;Animate Rolling</source>
