@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Player not found - cannot remove player.</source>
-        <translation>Nie znaleziono gracza - nie można go usunąć.</translation>
+        <translation>Nie znaleziono gracza – nie można go usunąć.</translation>
     </message>
     <message>
         <source>Zarvo - Cannot Remove</source>
@@ -514,7 +514,7 @@ dane gracza zostaną utracone.</translation>
     </message>
     <message>
         <source>Two of a kind + three of a kind. (Score 25.)</source>
-        <translation>Dwie jednakowe + trzy jednakowe. (25 punktów.)</translation>
+        <translation>Para + trzy jednakowe. (25 punktów.)</translation>
     </message>
     <message>
         <source>Small Straight....</source>
