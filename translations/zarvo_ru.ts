@@ -427,7 +427,7 @@ for the player will be lost.</source>
     </message>
     <message>
         <source>Full House.........</source>
-        <translation>Фулл-хаус............</translation>
+        <translation>Фулл-хаус..........</translation>
     </message>
     <message>
         <source>Two of a kind + three of a kind. (Score 25.)</source>
@@ -459,7 +459,7 @@ for the player will be lost.</source>
     </message>
     <message>
         <source>Chance.............</source>
-        <translation>Шанс....................</translation>
+        <translation>Шанс..................</translation>
     </message>
     <message>
         <source>Score total of die showing.</source>
