@@ -296,7 +296,7 @@ for the player will be lost.</source>
     </message>
     <message>
         <source>(Please enter your name as you want it to appear.)</source>
-        <translation>(Введи имя так, как его показать в таблице.)</translation>
+        <translation>(Введи имя так, как оно будет в таблице.)</translation>
     </message>
     <message>
         <source>Player Name:</source>
