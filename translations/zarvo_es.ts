@@ -258,6 +258,93 @@ guardados de este jugador.</translation>
     </message>
 </context>
 <context>
+    <name>SpokenTable</name>
+    <message>
+        <source>Rolling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one</source>
+        <translation type="unfinished">uno</translation>
+    </message>
+    <message>
+        <source>two</source>
+        <translation type="unfinished">dos</translation>
+    </message>
+    <message>
+        <source>three</source>
+        <translation type="unfinished">tres</translation>
+    </message>
+    <message>
+        <source>four</source>
+        <translation type="unfinished">cuatro</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation type="unfinished">cinco</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation type="unfinished">seis</translation>
+    </message>
+    <message>
+        <source>Die %1: on the pile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep die %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die %1: %2</source>
+        <translation type="unfinished">Dado %1: %2</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation type="unfinished">libre</translation>
+    </message>
+    <message>
+        <source>open, would score nothing</source>
+        <translation type="unfinished">libre, no daría nada</translation>
+    </message>
+    <message>
+        <source>open, would score %1 and a bonus of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open, would score %1</source>
+        <translation type="unfinished">libre, daría %1</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation type="unfinished">Dados</translation>
+    </message>
+    <message>
+        <source>No rolls left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One roll left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two rolls left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolled %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 and a bonus of %3 written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmAbout</name>
     <message>
         <source>Version %1</source>
@@ -339,10 +426,6 @@ guardados de este jugador.</translation>
     <message>
         <source>Roll or accept roll.</source>
         <translation>Tirar o aceptar la tirada.</translation>
-    </message>
-    <message>
-        <source>Dice</source>
-        <translation>Dados</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -544,74 +627,6 @@ guardados de este jugador.</translation>
     <message>
         <source>Roll</source>
         <translation>Tirar</translation>
-    </message>
-    <message>
-        <source>one</source>
-        <translation>uno</translation>
-    </message>
-    <message>
-        <source>two</source>
-        <translation>dos</translation>
-    </message>
-    <message>
-        <source>three</source>
-        <translation>tres</translation>
-    </message>
-    <message>
-        <source>four</source>
-        <translation>cuatro</translation>
-    </message>
-    <message>
-        <source>five</source>
-        <translation>cinco</translation>
-    </message>
-    <message>
-        <source>six</source>
-        <translation>seis</translation>
-    </message>
-    <message>
-        <source>%1, kept</source>
-        <translation>%1, fijo</translation>
-    </message>
-    <message>
-        <source>%1, to roll</source>
-        <translation>%1, para tirar</translation>
-    </message>
-    <message>
-        <source>%1, rolling</source>
-        <translation>%1, rodando</translation>
-    </message>
-    <message>
-        <source>on the pile</source>
-        <translation>en el montón</translation>
-    </message>
-    <message>
-        <source>rolling</source>
-        <translation>rodando</translation>
-    </message>
-    <message>
-        <source>%1, under the cursor</source>
-        <translation>%1, bajo el cursor</translation>
-    </message>
-    <message>
-        <source>Die %1: %2</source>
-        <translation>Dado %1: %2</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>libre</translation>
-    </message>
-    <message>
-        <source>open, would score nothing</source>
-        <translation>libre, no daría nada</translation>
-    </message>
-    <message>
-        <source>open, would score</source>
-        <translation>libre, daría puntos</translation>
-    </message>
-    <message>
-        <source>open, would score %1</source>
-        <translation>libre, daría %1</translation>
     </message>
 </context>
 <context>

@@ -258,6 +258,93 @@ salvas dele serão perdidas.</translation>
     </message>
 </context>
 <context>
+    <name>SpokenTable</name>
+    <message>
+        <source>Rolling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one</source>
+        <translation type="unfinished">um</translation>
+    </message>
+    <message>
+        <source>two</source>
+        <translation type="unfinished">dois</translation>
+    </message>
+    <message>
+        <source>three</source>
+        <translation type="unfinished">três</translation>
+    </message>
+    <message>
+        <source>four</source>
+        <translation type="unfinished">quatro</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation type="unfinished">cinco</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation type="unfinished">seis</translation>
+    </message>
+    <message>
+        <source>Die %1: on the pile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep die %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die %1: %2</source>
+        <translation type="unfinished">Dado %1: %2</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation type="unfinished">livre</translation>
+    </message>
+    <message>
+        <source>open, would score nothing</source>
+        <translation type="unfinished">livre, não daria pontos</translation>
+    </message>
+    <message>
+        <source>open, would score %1 and a bonus of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open, would score %1</source>
+        <translation type="unfinished">livre, daria %1</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation type="unfinished">Dados</translation>
+    </message>
+    <message>
+        <source>No rolls left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One roll left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two rolls left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolled %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 and a bonus of %3 written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmAbout</name>
     <message>
         <source>Version %1</source>
@@ -339,10 +426,6 @@ salvas dele serão perdidas.</translation>
     <message>
         <source>Roll or accept roll.</source>
         <translation>Role os dados ou aceite a jogada.</translation>
-    </message>
-    <message>
-        <source>Dice</source>
-        <translation>Dados</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -544,74 +627,6 @@ salvas dele serão perdidas.</translation>
     <message>
         <source>Roll</source>
         <translation>Rolar</translation>
-    </message>
-    <message>
-        <source>one</source>
-        <translation>um</translation>
-    </message>
-    <message>
-        <source>two</source>
-        <translation>dois</translation>
-    </message>
-    <message>
-        <source>three</source>
-        <translation>três</translation>
-    </message>
-    <message>
-        <source>four</source>
-        <translation>quatro</translation>
-    </message>
-    <message>
-        <source>five</source>
-        <translation>cinco</translation>
-    </message>
-    <message>
-        <source>six</source>
-        <translation>seis</translation>
-    </message>
-    <message>
-        <source>%1, kept</source>
-        <translation>%1, guardado</translation>
-    </message>
-    <message>
-        <source>%1, to roll</source>
-        <translation>%1, vai rolar</translation>
-    </message>
-    <message>
-        <source>%1, rolling</source>
-        <translation>%1, rolando</translation>
-    </message>
-    <message>
-        <source>on the pile</source>
-        <translation>no monte</translation>
-    </message>
-    <message>
-        <source>rolling</source>
-        <translation>rolando</translation>
-    </message>
-    <message>
-        <source>%1, under the cursor</source>
-        <translation>%1, sob o cursor</translation>
-    </message>
-    <message>
-        <source>Die %1: %2</source>
-        <translation>Dado %1: %2</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>livre</translation>
-    </message>
-    <message>
-        <source>open, would score nothing</source>
-        <translation>livre, não daria pontos</translation>
-    </message>
-    <message>
-        <source>open, would score</source>
-        <translation>livre, daria pontos</translation>
-    </message>
-    <message>
-        <source>open, would score %1</source>
-        <translation>livre, daria %1</translation>
     </message>
 </context>
 <context>

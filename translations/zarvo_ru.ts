@@ -258,6 +258,93 @@ for the player will be lost.</source>
     </message>
 </context>
 <context>
+    <name>SpokenTable</name>
+    <message>
+        <source>Rolling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one</source>
+        <translation type="unfinished">один</translation>
+    </message>
+    <message>
+        <source>two</source>
+        <translation type="unfinished">два</translation>
+    </message>
+    <message>
+        <source>three</source>
+        <translation type="unfinished">три</translation>
+    </message>
+    <message>
+        <source>four</source>
+        <translation type="unfinished">четыре</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation type="unfinished">пять</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation type="unfinished">шесть</translation>
+    </message>
+    <message>
+        <source>Die %1: on the pile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep die %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die %1: %2</source>
+        <translation type="unfinished">Кубик %1: %2</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation type="unfinished">свободна</translation>
+    </message>
+    <message>
+        <source>open, would score nothing</source>
+        <translation type="unfinished">свободна, ничего не даст</translation>
+    </message>
+    <message>
+        <source>open, would score %1 and a bonus of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open, would score %1</source>
+        <translation type="unfinished">свободна, даст %1</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation type="unfinished">Кубики</translation>
+    </message>
+    <message>
+        <source>No rolls left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One roll left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two rolls left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolled %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 and a bonus of %3 written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmAbout</name>
     <message>
         <source>Version %1</source>
@@ -339,10 +426,6 @@ for the player will be lost.</source>
     <message>
         <source>Roll or accept roll.</source>
         <translation>Бросить кубики или принять бросок.</translation>
-    </message>
-    <message>
-        <source>Dice</source>
-        <translation>Кубики</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -544,74 +627,6 @@ for the player will be lost.</source>
     <message>
         <source>Roll</source>
         <translation>Бросить</translation>
-    </message>
-    <message>
-        <source>one</source>
-        <translation>один</translation>
-    </message>
-    <message>
-        <source>two</source>
-        <translation>два</translation>
-    </message>
-    <message>
-        <source>three</source>
-        <translation>три</translation>
-    </message>
-    <message>
-        <source>four</source>
-        <translation>четыре</translation>
-    </message>
-    <message>
-        <source>five</source>
-        <translation>пять</translation>
-    </message>
-    <message>
-        <source>six</source>
-        <translation>шесть</translation>
-    </message>
-    <message>
-        <source>%1, kept</source>
-        <translation>%1, оставлен</translation>
-    </message>
-    <message>
-        <source>%1, to roll</source>
-        <translation>%1, будет переброшен</translation>
-    </message>
-    <message>
-        <source>%1, rolling</source>
-        <translation>%1, катится</translation>
-    </message>
-    <message>
-        <source>on the pile</source>
-        <translation>в куче</translation>
-    </message>
-    <message>
-        <source>rolling</source>
-        <translation>катится</translation>
-    </message>
-    <message>
-        <source>%1, under the cursor</source>
-        <translation>%1, под курсором</translation>
-    </message>
-    <message>
-        <source>Die %1: %2</source>
-        <translation>Кубик %1: %2</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>свободна</translation>
-    </message>
-    <message>
-        <source>open, would score nothing</source>
-        <translation>свободна, ничего не даст</translation>
-    </message>
-    <message>
-        <source>open, would score</source>
-        <translation>свободна, даст очки</translation>
-    </message>
-    <message>
-        <source>open, would score %1</source>
-        <translation>свободна, даст %1</translation>
     </message>
 </context>
 <context>

@@ -7,8 +7,6 @@ xwindow=$2
 dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
 cp "$exe" "$dir/Zarvo"
-# The real window on the X server: a run of the whole suite may export the windowless platform.
-unset QT_QPA_PLATFORM
 
 xvfb-run -a -s "-screen 0 1024x768x24" bash -c '
   set -u
