@@ -58,7 +58,7 @@ TEST_P(Help, ContentsIndexAndSearchFindThePages)
         for (int i = 0; i < items[k]->childCount(); ++i)
             items << items[k]->child(i);
     }
-    EXPECT_EQ(items.size(), 20);
+    EXPECT_EQ(items.size(), 21);
     const QString fullHouse = SpokenCaption(QCoreApplication::translate("frmMain", "Full House........."));
     EXPECT_EQ(engine.documentsForKeyword(fullHouse).value(0).url.fileName(), "fullhouse.html");
     EXPECT_EQ(engine.documentsForKeyword(GetParam().last()).value(0).url.fileName(), "players.html");
