@@ -343,13 +343,9 @@ SetupMarks frmMain::Marks() const
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* widget = qobject_cast<QWidget*>(watched);
-    const bool click = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease
-                       || event->type() == QEvent::MouseButtonDblClick;
-    if (click)
-        return !diceFieldEnabled_ && widget && picDisplayer->isAncestorOf(widget);
     if (event->type() != QEvent::KeyPress)
         return false;
+    auto* widget = qobject_cast<QWidget*>(watched);
     // Keys for the menu bar (Alt navigation) and for other windows are not the game's.
     if (!widget || widget->window() != this || qobject_cast<QMenuBar*>(widget))
         return false;
@@ -426,7 +422,7 @@ bool frmMain::Enabled(Control c) const
 void frmMain::SetEnabled(Control c, bool enabled)
 {
     if (c == Control::picDisplayer) {
-        diceFieldEnabled_ = enabled;   // eventFilter holds back the clicks
+        diceFieldEnabled_ = enabled;
         return;
     }
     QWidget* w = ControlWidget(c);

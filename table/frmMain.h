@@ -121,7 +121,8 @@ private:
     std::array<int, 5> dieFace_{1, 2, 3, 4, 5};   // the face each die's picture shows
     std::array<bool, 5> dieCursor_{};             // the picture is the cursor look
     std::string rollCaption_;                     // cmdRoll's caption as the logic knows it
-    // picDisplayer's Enabled. Disabling the widget itself would send a screen reader a change
-    // of state for each of its thirty controls at every roll; its clicks are held back instead.
+    // picDisplayer's Enabled. Disabling the widget itself would send a screen reader a change of
+    // state for each of its thirty controls at every roll; the dice's click routine already
+    // ignores clicks while cmdRoll is disabled, which it is whenever picDisplayer is.
     bool diceFieldEnabled_ = true;
 };
