@@ -1,7 +1,6 @@
 // The character rule of the two name boxes, txtName of the new-high-score window and the text
-// of cboAddRemove in Change Players, for typed keys and for text an input method commits, with
-// characters of every width: an emoji, a musical symbol and a rare ideograph are each one
-// character of two 16-bit units.
+// of cboAddRemove in Change Players, for typed keys and for text an input method commits, by the
+// steps of NameBoxes.txt.
 #include <QApplication>
 #include <QComboBox>
 #include <QInputMethodEvent>
@@ -9,45 +8,23 @@
 #include <QLineEdit>
 
 #include "DataFileFixture.h"
+#include "TableFile.h"
 #include "frmHighScoreNotify.h"
 #include "frmMain.h"
 #include "frmPlayers.h"
 
 namespace {
-// The box's text and selection (in characters of plain ASCII), what arrives, and the text after.
-struct Step {
-    const char* before;
-    int selStart, selLength;
-    bool committed;   // by an input method, else one typed key
-    const char* arrives;
-    const char* after;
-};
-const Step Steps[] = {
-    {"ABCDEFGHIJK", 11, 0, false, "😀", "ABCDEFGHIJK"},         // 11 characters: no emoji, however wide
-    {"ABCDEFGHIJK", 11, 0, false, "l", "ABCDEFGHIJKl"},         // a small letter, the twelfth
-    {"ABCDEFGHIJKL", 12, 0, false, "1", "ABCDEFGHIJKL"},        // no thirteenth
-    {"ABCDEFGHIJKL", 12, 0, true, "𝄞", "ABCDEFGHIJKL"},
-    {"ABCDEFGHIJKL", 11, 1, false, "😀", "ABCDEFGHIJK😀"},       // over a selection anything goes in whole
-    {"ABCDEFGHIJK", 11, 0, true, "\U00020000", "ABCDEFGHIJK"},  // a rare ideograph from an input method
-    {"ABCDEFGHIJ", 5, 0, true, "x😀yz", "ABCDExyFGHIJ"},        // each committed character in turn, up to 12
-    {"AB", 2, 0, true, "é", "AB"},                              // a compose key's accented letter
-    {"ABCDEFGHIJKL", 0, 2, true, " 𝄞Z", "𝄞ZCDEFGHIJKL"},        // no blank first, even over a selection
-    {"ABC", 0, 3, false, " ", "ABC"},
-    {"A B2", 4, 0, false, "!", "A B2"},
-    {"A B2", 4, 0, false, "\b", "A B"},                         // Backspace passes
-};
-
-void Arrive(QWidget* box, const Step& step)
+// Sends one step's text to the box, as a typed key or as an input method's commit.
+void Arrive(QWidget* box, const QString& text, bool committed)
 {
-    const QString text = QString::fromUtf8(step.arrives);
-    if (step.committed) {
+    if (committed) {
         QInputMethodEvent input;
         input.setCommitString(text);
         QApplication::sendEvent(box, &input);
         return;
     }
-    const Qt::Key key = text == "\b" ? Qt::Key_Backspace : Qt::Key_unknown;
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent press(QEvent::KeyPress, text == "BS" ? Qt::Key_Backspace : Qt::Key_unknown, Qt::NoModifier,
+                    text == "BS" ? "\b" : text);
     QApplication::sendEvent(box, &press);
 }
 }
@@ -64,12 +41,11 @@ TEST_F(NameBoxes, EveryCharacterMeetsTheRuleWhole)
     const std::pair<QWidget*, QLineEdit*> boxes[] = {{notify.txtName, notify.txtName},
                                                      {players.cboAddRemove, players.cboAddRemove->lineEdit()}};
     for (const auto& [box, field] : boxes) {
-        for (const Step& step : Steps) {
-            field->setText(step.before);
-            field->setSelection(step.selStart, step.selLength);
-            Arrive(box, step);
-            EXPECT_EQ(field->text().toStdString(), step.after) << box->objectName().toStdString() << ": "
-                                                                << step.before << " + " << step.arrives;
+        for (const QStringList& step : ReadTable(ZARVO_TEST_DATA "/app/NameBoxes.txt")) {
+            field->setText(step[0]);
+            field->setSelection(step[1].toInt(), step[2].toInt());
+            Arrive(box, step[4], step[3] == "committed");
+            EXPECT_EQ(field->text().toStdString(), step[5].toStdString()) << box->objectName().toStdString() << ": " << step.join(' ').toStdString();
         }
     }
     // A pasted name is not filtered, but the high-score box keeps 12 characters, never half of one.
