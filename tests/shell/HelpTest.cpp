@@ -21,12 +21,9 @@
 #include "WindowFixture.h"
 #include "frmAbout.h"
 
-namespace {
 // A row of Languages.txt: the language, then what the game shows; its last word is what its help's
 // index finds the option Remember Players by.
-using HelpLanguage = QStringList;
-
-class Help : public testing::TestWithParam<HelpLanguage> {
+class Help : public testing::TestWithParam<QStringList> {
 protected:
     void SetUp() override
     {
@@ -34,19 +31,16 @@ protected:
             QCoreApplication::installTranslator(&translator);
     }
     void TearDown() override { QCoreApplication::removeTranslator(&translator); }
-
-    QString HelpFile() const
-    {
-        return QString(ZARVO_BIN_DIR) + (GetParam()[0] == "en" ? "/Zarvo.hlp" : "/Zarvo_" + GetParam()[0] + ".hlp");
-    }
     QTranslator translator;
 };
-}
+void PrintTo(const QStringList& row, std::ostream* out) { *out << row.join(' ').toStdString(); }
 
-// Every page named in the contents exists; the index and a search find the pages of the card's words.
-TEST_P(Help, ContentsIndexAndSearchFindThePages)
+// Every page named in the contents exists; the index and a search find the pages of the card's
+// words. Each worked example of the pages, a row of dice, category, what the card held by the
+// card's own names ("Ones 4, Zarvo 50"), score and bonus, agrees with the rules.
+TEST_P(Help, ContentsIndexSearchAndExamples)
 {
-    HelpCollection help(HelpFile());
+    HelpCollection help(QString(ZARVO_BIN_DIR) + (GetParam()[0] == "en" ? "/Zarvo.hlp" : "/Zarvo_" + GetParam()[0] + ".hlp"));
     QHelpEngine& engine = help.Engine();
     QHelpSearchEngine* search = engine.searchEngine();
     QSignalSpy created(engine.contentModel(), &QHelpContentModel::contentsCreated), indexed(search, &QHelpSearchEngine::indexingFinished),
@@ -59,30 +53,23 @@ TEST_P(Help, ContentsIndexAndSearchFindThePages)
             items << items[k]->child(i);
     }
     EXPECT_EQ(items.size(), 21);
-    const QString fullHouse = SpokenCaption(QCoreApplication::translate("frmMain", "Full House........."));
-    EXPECT_EQ(engine.documentsForKeyword(fullHouse).value(0).url.fileName(), "fullhouse.html");
-    EXPECT_EQ(engine.documentsForKeyword(GetParam().last()).value(0).url.fileName(), "players.html");
-    search->search(SpokenCaption(QCoreApplication::translate("frmMain", "Bonus..")));   // the card's own word
-    ASSERT_TRUE(found.wait(10000));
-    const QList<QHelpSearchResult> results = search->searchResults(0, search->searchResultCount());
-    EXPECT_TRUE(std::any_of(results.begin(), results.end(), [](auto& r) { return r.url().fileName() == "bonus.html"; }));
-}
-
-// Rows of dice, category, what the card held by the card's own names in the help's language
-// ("Ones 4, Zarvo 50"), score, bonus.
-TEST_P(Help, ScoringExamplesAgreeWithTheRules)
-{
     QStringList rows = {""};
     for (const char* caption : {"Ones....", "Twos....", "Threes..", "Fours....", "Fives....", "Sixes....",
                                 "Three of a Kind..", "Four of a Kind....", "Full House.........", "Small Straight....",
                                 "Large Straight...", "Zarvo................", "Chance.............", "Bonus.."})
         rows << SpokenCaption(QCoreApplication::translate("frmMain", caption));
+    EXPECT_EQ(engine.documentsForKeyword(rows[CatFullHouse]).value(0).url.fileName(), "fullhouse.html");
+    EXPECT_EQ(engine.documentsForKeyword(GetParam().last()).value(0).url.fileName(), "players.html");
+    search->search(rows[BonusCell]);
+    ASSERT_TRUE(found.wait(10000));
+    const QList<QHelpSearchResult> results = search->searchResults(0, search->searchResultCount());
+    EXPECT_TRUE(std::any_of(results.begin(), results.end(), [](auto& r) { return r.url().fileName() == "bonus.html"; }));
+
     const QRegularExpression held("(\\p{Lu}[\\p{L} '-]*) (\\d+)"), example("<tr><td>([1-6]) ([1-6]) ([1-6]) ([1-6]) ([1-6])"
         "</td><td>([^<]*)</td><td>([^<]*)</td><td class=\"num\">(\\d+)</td><td class=\"num\">(\\d+)</td></tr>");
-    HelpCollection help(HelpFile());
     QStringList covered;
-    for (const QUrl& page : help.Engine().files(help.Engine().registeredDocumentations().first(), QString(), "html"))
-        for (const QRegularExpressionMatch& m : example.globalMatch(QString::fromUtf8(help.Engine().fileData(page)))) {
+    for (const QUrl& page : engine.files(engine.registeredDocumentations().first(), QString(), "html"))
+        for (const QRegularExpressionMatch& m : example.globalMatch(QString::fromUtf8(engine.fileData(page)))) {
             ScoreCard card{{0, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, 0}};   // all open, no bonus
             for (const QRegularExpressionMatch& entry : held.globalMatch(m.captured(7)))   // a stray name throws
                 card[rows.indexOf(entry.captured(1))] = std::int16_t(entry.captured(2).toInt());
