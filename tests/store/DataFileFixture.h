@@ -41,6 +41,7 @@ public:
     }
     void TearDown() override
     {
+        EXPECT_FALSE(gDataDatabase.IsOpen()) << "each piece of work closes the data file it opened";
         CloseDataFile(), SetMsgBoxHandler({});
         releaser = {}, sqlite3_close(locker);
         setfsuid(getuid()), fs::remove_all(directory);

@@ -18,6 +18,7 @@ TEST_F(FreshDataFileTest, WritesWholeFilesOnlyWhereNoneIs)
     EXPECT_EQ(std::distance(fs::directory_iterator(directory), {}), 1) << "only the broken schema is left";
     ASSERT_EQ(run(ZARVO_SCHEMA_FILE), 0);
     EXPECT_TRUE(OpenDataFile(false)) << "the game's four tables, whole";
+    CloseDataFile();
     fs::remove(DataPath()), std::ofstream(DataPath()) << "somebody's";
     EXPECT_EQ(run(ZARVO_SCHEMA_FILE), 0);
     EXPECT_EQ(fs::file_size(DataPath()), 10u);

@@ -26,5 +26,6 @@ TEST_F(StatementsTest, PlayersAreAddedListedAndDeletedByTheirExactName)
         EXPECT_TRUE(DeletePlayer(name)) << name;
     EXPECT_EQ(KnownPlayerNames(), (Names{"Zed", "1abc", "amy", "Bo"}));
     EXPECT_EQ(Sql(Figures + "'amy'"), "0|9999|0.0|0");
+    CloseDataFile();
 }
 }
