@@ -44,6 +44,9 @@ TEST_F(HighScoreWindows, NameTypedInTheNotifyWindowReachesTheTable)
     CheckHighScoreWithDialogs(1, nullptr);
     EXPECT_EQ(shown, "||;||;||;||;||;Hal||Feb. 29, 2024;Ann|300|May. 4, 2026***;Cy|200|May. 4, 2025;"
                      "a b2cdefghi|200|May. 4, 2026***;Ivy|160|;");
+    Sql("INSERT INTO HighScores SELECT * FROM HighScores; INSERT INTO HighScores SELECT * FROM HighScores LIMIT 1");
+    EXPECT_EQ(Sql("SELECT count(*) FROM HighScores"), "11") << "by hand: ten of them are read";
+    EXPECT_TRUE(frmHighScores(nullptr).Loaded());
     frmHighScoreNotify closed(nullptr);   // offers the name just entered
     closed.show(), closed.txtName->setText("x"), closed.close();
     fs::remove(DataPath());
