@@ -106,9 +106,9 @@ void ExpectUniqueKeys(const QStringList& texts, const std::string& where)
 void ExpectFits(const QWidget* w, const std::string& where)
 {
     const QString text = CaptionOf(w).remove('&');
-    if (auto* label = qobject_cast<const Label*>(w); label && !text.isEmpty())
+    if (auto* label = qobject_cast<const Label*>(w); label && !text.isEmpty()) {
         EXPECT_TRUE(InkFits(label)) << where << " does not hold \"" << text.toStdString() << '"';
-    else if (qobject_cast<const QPushButton*>(w) || dynamic_cast<const Frame*>(w))
+    } else if (qobject_cast<const QPushButton*>(w) || dynamic_cast<const Frame*>(w))
         EXPECT_LE(QFontMetrics(w->font()).horizontalAdvance(text), w->width() - (dynamic_cast<const Frame*>(w) ? 16 : 8)) << where;
 }
 

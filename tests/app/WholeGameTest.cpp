@@ -1,6 +1,7 @@
-// Whole games on the real window with the real dialogs: two players to the end, the first by
-// mouse and the second by keys, then a second game ended with No. The dice of each turn are set
-// by the test after the roll; the expected cells, totals and dialog texts are worked out by hand.
+// Whole games on the real window with the real dialogs: two players chosen in Change Players,
+// played to the end, the first by mouse and the second by keys, then a second game ended with
+// No. The dice of each turn are set by the test after the roll; the expected cells, totals and
+// dialog texts are worked out by hand.
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
@@ -12,9 +13,11 @@
 
 #include "DataFileFixture.h"
 #include "GameDialogs.h"
+#include "ModalAnswer.h"
 #include "frmHighScoreNotify.h"
 #include "frmHighScores.h"
 #include "frmPlayerResults.h"
+#include "frmPlayers.h"
 #include "frmSummary.h"
 
 namespace {
@@ -31,6 +34,20 @@ const struct Turn { DiceValues dice; int category; const char* preview; const ch
 
 template <class... L> std::string Texts(const L*... labels) { return ((" " + labels->Caption().toStdString()) + ...); }
 
+// A screen reader can name every control it meets in the dialog: a label or button by its
+// caption, a box by the name it was given (its text says nothing of what it is).
+void ExpectNamed(const QDialog* d)
+{
+    for (QWidget* w : d->findChildren<QWidget*>()) {
+        auto* label = dynamic_cast<Label*>(w);
+        const bool box = qobject_cast<QComboBox*>(w) || (qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w->parent()));
+        if (!w->isHidden() && (box || qobject_cast<QAbstractButton*>(w) || (label && !label->Caption().isEmpty()))) {
+            EXPECT_NE(box ? w->accessibleName() : QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name), "")
+                << d->windowTitle().toStdString();
+        }
+    }
+}
+
 class WholeGame : public DataFileFixture {
 protected:
     frmMain form;
@@ -46,15 +63,7 @@ protected:
             if (!d || !d->isActiveWindow() || d->property("answered").toBool())
                 return;
             std::string shown = d->windowTitle().toStdString();
-            // A screen reader can name every control it meets in the dialog: a label or button by
-            // its caption, a box by the name it was given (its text says nothing of what it is).
-            for (QWidget* w : d->findChildren<QWidget*>()) {
-                auto* label = dynamic_cast<Label*>(w);
-                const bool box = qobject_cast<QComboBox*>(w) || (qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w->parent()));
-                if (w->isHidden() || !(box || qobject_cast<QAbstractButton*>(w) || (label && !label->Caption().isEmpty())))
-                    continue;
-                EXPECT_NE(box ? w->accessibleName() : QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name), "") << shown;
-            }
+            ExpectNamed(d);
             if (auto* r = dynamic_cast<frmPlayerResults*>(d))
                 shown += Texts(r->lblScored, r->lblCurrentInfo, r->lblAllHigh, r->lblAllLow, r->lblAllAvg);
             if (auto* n = dynamic_cast<frmHighScoreNotify*>(d))
@@ -106,22 +115,49 @@ protected:
     std::string ShownTotals() const { return Texts(form.lblLeftTotal, form.lblRightTotal, form.lblBonusTotal, form.lblTotal).substr(1); }
 };
 
-TEST_F(WholeGame, TwoPlayersByMouseAndKeysThenAgainUntilNo)
+TEST_F(WholeGame, PlayersChosenThenTwoGamesByMouseAndKeys)
 {
-    MakeFreshFile();
-    Sql("INSERT INTO Setup VALUES (-1, 0, -1, -1);"
-        "INSERT INTO PlayersInUse VALUES (1, '< Player 1 >'), (2, '< Player 2 >');");
-    SetMsgBoxHandler([](const std::string&, int, const std::string&) { return int(vbYes); });   // Accept; the offer
+    std::vector<std::string> titles;   // of the message boxes, each answered Yes: Accept, the offer
+    SetMsgBoxHandler([&titles](const std::string&, int, const std::string& title) { return titles.push_back(title), int(vbYes); });
     form.SetDialogs(&dialogs);
     form.Form_Load();
     form.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    // Without a data file: the message first, the note in place of Add and Remove; Close in the
+    // middle of a turn changes nothing.
+    QTest::mouseClick(form.cmdRoll, Qt::LeftButton);
+    Roll(form.Logic().mDice);
+    const auto state = [this] { return std::tuple(form.cmdRoll->text().toStdString(), form.Logic().mRollsDone, form.Logic().mDice); };
+    const auto before = state();
+    AnswerNextModal([](QWidget* modal) {
+        auto& d = dynamic_cast<frmPlayers&>(*modal);
+        EXPECT_TRUE(d.fraAddRemove->isHidden() && !d.lblNote->isHidden());
+        ExpectNamed(&d), d.cmdCancel->click();
+    });
+    form.mnuNewPlayers->trigger();
+    EXPECT_EQ(std::tuple(titles, state()), std::tuple(std::vector<std::string>{"Zarvo - Data File Error"}, before));
+    // With a fresh file: two names typed and added (no blank first; no "-" or "'"; twelve at most)
+    // and seated; Play, the default, offers the summary, starts the sessions afresh and a new game.
+    MakeFreshFile();
+    gSessionStats[1].SessionGames = 4;
+    AnswerNextModal([](QWidget* modal) {
+        auto& d = dynamic_cast<frmPlayers&>(*modal);
+        QTest::keyClicks(d.cboAddRemove, " Ann");
+        d.cmdAdd->click();
+        d.cboAddRemove->lineEdit()->selectAll();
+        QTest::keyClicks(d.cboAddRemove, " Bo-b'by 1234567");
+        QTest::keyClick(d.cboAddRemove, Qt::Key_Backspace);
+        d.cmdAdd->click();
+        for (auto [i, name] : {std::pair{0, "Ann"}, {1, "Bobby 12345"}})
+            d.cboPlayer[i]->setCurrentIndex(d.cboPlayer[i]->findText(name));
+        ExpectNamed(&d), QTest::keyClick(&d, Qt::Key_Return);
+    });
+    form.mnuNewPlayers->trigger();
+    EXPECT_EQ(std::tuple(gPlayerNames.UBound(), form.mnuScoringSummary->isEnabled(), gSessionStats[1].SessionGames,
+                         form.lblPleaseRoll->Caption().toStdString()), std::tuple(2, true, 0, std::string("Ann's turn. Please roll.")));
+    form.mnuRememberPlayers->trigger(), form.mnuScoringPreview->trigger();
     QTimer answerer;
     AnswerDialogs(answerer);
-    form.mnuNewPlayers->trigger();   // Play, the default, seats the same two players again
-    ASSERT_EQ(seen, std::vector<std::string>{" Zarvo - Change Players"});
-    EXPECT_TRUE(form.mnuScoringSummary->isEnabled());   // two players: a summary to ask for
-    seen.clear();
     for (const Turn& t : Card) {
         SCOPED_TRACE(t.category);
         TurnByMouse(t);
@@ -129,16 +165,15 @@ TEST_F(WholeGame, TwoPlayersByMouseAndKeysThenAgainUntilNo)
             QTest::keyClick(&form, Qt::Key_Down);   // the first arrow: the offer, answered Yes
         TurnByKeys(t);
         if (t.category != CatChance) {
-            ASSERT_EQ(form.Cell(t.category)->Caption(), t.cell) << "player 1's card is back";
+            ASSERT_EQ(form.Cell(t.category)->Caption(), t.cell) << "Ann's card is back";
         }
     }
-    const std::string results = "Zarvo - Results Player 1 Scored: 396 Congratulations, an all-time high! 396 396 396";
-    const std::string summary = "Zarvo - Scoring Summary Player 2  66  195  135  396  2  132  792  4 @1260 1680 2145";
-    EXPECT_EQ(seen, (std::vector<std::string>{results, "Zarvo - High Score Player 1",
-        "Zarvo - High Scores Player 1 396 bold",
-        "Zarvo - Results Player 2 Scored: 396 Congratulations, a new session high! 396 396 396",
-        "Zarvo - High Score Player 2", "Zarvo - High Scores Player 1 396 bold", summary, " Zarvo - New Game"}));
-    EXPECT_EQ(form.lblPleaseRoll->Caption(), "Player 1's turn. Please roll.") << "Yes: the next game";
+    const std::string summary = "Zarvo - Scoring Summary Bobby 12345  66  195  135  396  2  132  792  4 @1260 1680 2145";
+    EXPECT_EQ(seen, (std::vector<std::string>{
+        "Zarvo - Results Ann Scored: 396 Congratulations, an all-time high! 396 396 396", "Zarvo - High Score Ann",
+        "Zarvo - High Scores Ann 396 bold", "Zarvo - Results Bobby 12345 Scored: 396 Congratulations, an all-time high! 396 396 396",
+        "Zarvo - High Score Bobby 12345", "Zarvo - High Scores Ann 396 bold", summary, " Zarvo - New Game"}));
+    EXPECT_EQ(form.lblPleaseRoll->Caption(), "Ann's turn. Please roll.") << "Yes: the next game";
 
     // The next game from its last round; no score reaches the top ten now. The session goes on,
     // so only the averages are left to tell.
@@ -151,15 +186,15 @@ TEST_F(WholeGame, TwoPlayersByMouseAndKeysThenAgainUntilNo)
         gScores[p][BonusCell] = 135;
     }
     TurnByMouse(Card[12]);
-    EXPECT_EQ(ShownTotals(), "66 186 135 387") << "player 2's card before its last turn";
+    EXPECT_EQ(ShownTotals(), "66 186 135 387") << "Bobby's card before its last turn";
     TurnByMouse(Card[12]);
     EXPECT_EQ(ShownTotals(), "66 195 135 396");
     EXPECT_EQ(seen, (std::vector<std::string>{
-        "Zarvo - Results Player 1 Scored: 396 Your overall average didn't change... 396 396 396",
-        "Zarvo - Results Player 2 Scored: 396 Your overall average didn't change... 396 396 396", summary,
+        "Zarvo - Results Ann Scored: 396 Your overall average didn't change... 396 396 396",
+        "Zarvo - Results Bobby 12345 Scored: 396 Your overall average didn't change... 396 396 396", summary,
         " Zarvo - New Game"}));
     EXPECT_TRUE(form.isHidden()) << "No ends the program";
-    EXPECT_EQ(Sql("SELECT * FROM Setup; SELECT PlayerName FROM PlayersInUse; SELECT GamesPlayed FROM Player"),
-              "-1|-1|-1|-1;< Player 1 >;< Player 2 >;4");
+    EXPECT_EQ(Sql("SELECT * FROM Setup; SELECT PlayerName FROM PlayersInUse; SELECT PlayerName, GamesPlayed FROM Player"),
+              "-1|-1|-1|-1;Ann;Bobby 12345;< Player >|0;Ann|2;Bobby 12345|2");
 }
 }
