@@ -58,9 +58,8 @@ QString CaptionOf(const QObject* o)
         return button->text();
     if (auto* box = qobject_cast<const QComboBox*>(o))
         return box->currentText();
-    if (auto* text = qobject_cast<const QLineEdit*>(o))
-        return text->text();
-    return "-";
+    auto* text = qobject_cast<const QLineEdit*>(o);
+    return text ? text->text() : "-";
 }
 
 // A control as the window shows it, in the words of its row: a line's ends, a menu entry's
@@ -83,22 +82,21 @@ Row Observed(const QObject* o)
             w->isHidden() ? "hidden" : "shown", CaptionOf(w)};
 }
 
-QStringList CaptionsOf(const QList<QAction*>& actions)
-{
-    QStringList texts;
-    for (const QAction* action : actions)
-        texts << action->text();
-    return texts;
-}
-
-// The letters after "&" in these texts, the access keys, are all different.
-void ExpectUniqueKeys(const QStringList& texts, const std::string& where)
+// The letters after "&" in these captions, the access keys, are all different.
+void ExpectUniqueKeys(const QStringList& captions, const std::string& where)
 {
     QStringList keys;
-    for (const QString& text : texts)
+    for (const QString& text : captions)
         if (const qsizetype amp = text.indexOf('&'); amp >= 0 && amp + 1 < text.size())
             keys << text.mid(amp + 1, 1).toLower();
     EXPECT_EQ(QSet<QString>(keys.begin(), keys.end()).size(), keys.size()) << where << ": " << keys.join(' ').toStdString();
+}
+void ExpectUniqueKeys(const QWidget* menu)   // the menu bar or a menu
+{
+    QStringList captions;
+    for (const QAction* action : menu->actions())
+        captions << action->text();
+    ExpectUniqueKeys(captions, menu->objectName().toStdString());
 }
 
 // A caption that shows fits: a label's ink lies within it, a button's or frame's text within
@@ -106,10 +104,10 @@ void ExpectUniqueKeys(const QStringList& texts, const std::string& where)
 void ExpectFits(const QWidget* w, const std::string& where)
 {
     const QString text = CaptionOf(w).remove('&');
-    if (auto* label = qobject_cast<const Label*>(w); label && !text.isEmpty()) {
-        EXPECT_TRUE(InkFits(label)) << where << " does not hold \"" << text.toStdString() << '"';
-    } else if (qobject_cast<const QPushButton*>(w) || dynamic_cast<const Frame*>(w))
-        EXPECT_LE(QFontMetrics(w->font()).horizontalAdvance(text), w->width() - (dynamic_cast<const Frame*>(w) ? 16 : 8)) << where;
+    const auto* label = qobject_cast<const Label*>(w);
+    EXPECT_TRUE(!label || text.isEmpty() || InkFits(label)) << where << " does not hold \"" << text.toStdString() << '"';
+    const int margin = dynamic_cast<const Frame*>(w) ? 16 : qobject_cast<const QPushButton*>(w) ? 8 : -1;
+    EXPECT_TRUE(margin < 0 || QFontMetrics(w->font()).horizontalAdvance(text) <= w->width() - margin) << where;
 }
 
 // The table's English text as a window of `context` must show it: its translation where the
@@ -195,9 +193,9 @@ protected:
         }
         ExpectUniqueKeys(keys, c.window[1].toStdString());
         if (main) {
-            ExpectUniqueKeys(CaptionsOf(main->menuBar()->actions()), "the menu bar");
-            for (const QAction* menu : main->menuBar()->actions())
-                ExpectUniqueKeys(CaptionsOf(menu->menu()->actions()), menu->text().toStdString());
+            ExpectUniqueKeys(main->menuBar());
+            for (const QMenu* menu : main->menuBar()->findChildren<QMenu*>())
+                ExpectUniqueKeys(menu);
         }
         static const QRegularExpression own("^((lbl|blb|cmd|img|pic|fra|cbo|txt|lin|mnu)[A-Z0-9]|Line\\d)");
         for (const QObject* o : window->findChildren<QObject*>())
