@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Measures what a desktop player notices, under Xvfb, after a build (bash scripts/build.sh):
 # start-up to the first shown window and peak memory (against a bare Qt window in the same
-# run), idle CPU over 10 s while the game waits for a roll, and the real length of a roll.
+# run), in English and in German, with every language installed beside the game; idle CPU
+# over 10 s while the game waits for a roll, and the real length of a roll.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
@@ -12,10 +13,9 @@ runs=${RUNS:-7}
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-# A copy with a copy of the data file: start-up reads real records, and no run of the
-# measurement writes into the data file beside the built program.
-cp "$bin/Zarvo" "$work/"
-[ -e "$bin/Zarvo.dat" ] && cp "$bin/Zarvo.dat" "$work/"
+# A copy of the program's folder (game, help, translations and data file): start-up reads real
+# records and finds every language, and no run of the measurement writes into the build.
+cp -r "$bin"/. "$work/"
 
 xvfb-run -a -s "-screen 0 1024x768x24" bash -s "$work" "$bench" "$xwindow" "$runs" <<'INNER'
 set -euo pipefail
@@ -34,10 +34,10 @@ startup() {   # program, window title -> "ms peak_kB"
   kill $pid; wait $pid 2>/dev/null || true
 }
 
-for program in "Zarvo:$work/Zarvo" "Bare:$bench/zarvo_bench_bare"; do
-  title=${program%%:*}; exe=${program#*:}
-  results=$(for _ in $(seq "$runs"); do startup "$exe" "$title"; done)
-  echo "$title: start-up to first shown window, median of $runs: $(echo "$results" | cut -d' ' -f1 | median) ms;" \
+for program in "Zarvo:en:$work/Zarvo" "Zarvo:de:$work/Zarvo" "Bare:en:$bench/zarvo_bench_bare"; do
+  title=${program%%:*}; rest=${program#*:}; language=${rest%%:*}; exe=${rest#*:}
+  results=$(for _ in $(seq "$runs"); do LANGUAGE=$language startup "$exe" "$title"; done)
+  echo "$title ($language): start-up to first shown window, median of $runs: $(echo "$results" | cut -d' ' -f1 | median) ms;" \
        "peak memory (VmHWM), median: $(echo "$results" | cut -d' ' -f2 | median) kB"
 done
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-class HelpWindow;
+class HelpViewer;
 
 constexpr int cdlHelpContext = 1;        // display by context
 constexpr int cdlHelpContextPopup = 8;   // pop-up display by context
@@ -24,5 +24,5 @@ public:
     void ShowHelp();
 
 private:
-    std::unique_ptr<HelpWindow> viewer_;
+    std::unique_ptr<HelpViewer> viewer_;
 };

@@ -127,3 +127,5 @@ void HelpWindow::ShowFinder()
     raise();
     activateWindow();
 }
+
+extern "C" Q_DECL_EXPORT HelpViewer* CreateHelpViewer(const QString& helpFile) { return new HelpWindow(helpFile); }

@@ -6,22 +6,21 @@
 #include <QWidget>
 
 #include "HelpCollection.h"
+#include "HelpViewer.h"
 
 class QSplitter;
 class QTabWidget;
 class QTextBrowser;
 
-class HelpWindow : public QWidget {
+class HelpWindow : public QWidget, public HelpViewer {
     Q_DECLARE_TR_FUNCTIONS(HelpWindow)
 
 public:
     explicit HelpWindow(const QString& helpFile);
     ~HelpWindow() override;
 
-    QString HelpFile() const { return helpFile_; }
-    // Brings the window up with the contents in front and their first page shown, whatever
-    // page was read before.
-    void ShowFinder();
+    QString HelpFile() const override { return helpFile_; }
+    void ShowFinder() override;
 
 private:
     QWidget* CreateIndexTab();

@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QStyle>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QWidget>
 
@@ -80,6 +81,19 @@ int QtMsgBox(const std::string& text, int style, const std::string& title)
     return vbOK;
 }
 
+namespace {
+// Fusion, but the menu bar's overflow button gets no picture: loading it would load every image
+// format plugin at start-up, for a button that the game's menu bar, wide enough, never shows.
+class GameStyle : public QProxyStyle {
+public:
+    GameStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override
+    {
+        return icon == SP_ToolBarHorizontalExtensionButton ? QIcon() : QProxyStyle::standardIcon(icon, option, widget);
+    }
+};
+}
+
 void InstallQtServices(QApplication& app)
 {
     SetAppPath(AppPathAsStarted(QCoreApplication::arguments().value(0).toStdString(),
@@ -90,7 +104,7 @@ void InstallQtServices(QApplication& app)
         return QCoreApplication::translate(context, source).toStdString();
     });
     InstallAccessibleFactory();
-    app.setStyle(QStyleFactory::create("Fusion"));
+    app.setStyle(new GameStyle);
     QPalette palette = app.style()->standardPalette();
     palette.setColor(QPalette::Window, Look::ButtonFace);
     palette.setColor(QPalette::Button, Look::ButtonFace);
