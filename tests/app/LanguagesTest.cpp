@@ -67,12 +67,14 @@ TEST(Translations, CompleteAndKeepTheirMarks)
 
 // In each language the player reads the game in it while the logic goes by its English texts:
 // the remembered placeholder player is asked to roll, "Accept" brings its question, a boxed cell
-// is scored, every comment line of the results window fits, and a date reads as the language
-// writes it. The placeholders chosen in the player dialog are stored in English: the file
+// is scored, every comment line of the results window fits, a date reads as the language writes
+// it, and F1 opens the help in the language. The placeholders chosen in the player dialog are stored in English: the file
 // written under one language reads the same under the next.
 TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
 {
-    fs::create_directory_symlink(ZARVO_TRANSLATIONS, directory + "/translations");
+    for (const auto& built : fs::directory_iterator(fs::path(ZARVO_TRANSLATIONS).parent_path()))   // translations, help
+        fs::create_symlink(built.path(), directory + "/" + built.path().filename().string());
+    fs::remove(DataPath());
     MakeFreshFile();
     Sql("INSERT INTO Setup VALUES (-1, 0, 0, 0); INSERT INTO PlayersInUse VALUES (1, '< Player 1 >');");
     std::vector<std::string> titles;
@@ -89,6 +91,7 @@ TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
         form.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
         EXPECT_EQ(form.lblPleaseRoll->Caption().toStdString(), language[3].toStdString());
+        EXPECT_EQ(form.dlgHelp.HelpFile, AppFile(language[0] == "en" ? "Zarvo.hlp" : "Zarvo_" + language[0].toStdString() + ".hlp"));
         form.cmdRoll->click();
         form.Logic().tmrRoll_Timer();   // no animation: the roll ends on its first tick
         EXPECT_EQ(form.cmdRoll->text().toStdString(), accept);

@@ -13,7 +13,6 @@
 
 #include "Accessible.h"
 #include "HelpWindow.h"
-#include "Languages.h"
 #include "ModalAnswer.h"
 #include "QtServices.h"
 #include "Scoring.h"
@@ -86,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(EachLanguage, Help, testing::ValuesIn(ReadTable(ZARVO_L
                          [](const auto& info) { return info.param[0].toStdString(); });
 
 // F1 opens the help beside the game at its contents page, and again after another page was
-// read, and in the player's language; About has no title bar, stands centred and closes by OK
+// read; About has no title bar, stands centred and closes by OK
 // (its layout is the guard's).
 TEST_F(WindowTest, HelpMenuContentsAndAbout)
 {
@@ -122,17 +121,4 @@ TEST_F(WindowTest, HelpMenuContentsAndAbout)
     form->mnuAbout->trigger();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
 
-    // A German player's F1 opens the German help.
-    ASSERT_TRUE(QFile::copy(QString(ZARVO_BIN_DIR) + "/Zarvo_de.hlp", dir.filePath("Zarvo_de.hlp")) &&
-                QFile::link(ZARVO_TRANSLATIONS, dir.filePath("translations")));
-    LoadLanguage(QLocale("de"));
-    frmMain german;
-    german.Form_Load();
-    german.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&german));
-    QTest::keyClick(&german, Qt::Key_F1);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return (help = dynamic_cast<HelpWindow*>(QApplication::activeWindow())) != nullptr
-                                             && help->HelpFile().endsWith("Zarvo_de.hlp"); }));
-    EXPECT_EQ(help->windowTitle(), "Zarvo-Hilfe");
-    LoadLanguage(QLocale("en"));
 }
