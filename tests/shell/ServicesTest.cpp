@@ -21,18 +21,9 @@ TEST(DateTime, EveryMonthInEnglish)
                    "Jul. 21, 2006|Aug. 23, 2007|Sep. 25, 2008|Oct. 27, 2009|Nov. 29, 2010|Dec. 31, 2011|");
 }
 
-// Files beside the program are joined with one separator, whatever the path was given with.
-TEST(Services, AppPath)
-{
-    SetAppPath("/opt/zarvo/");
-    EXPECT_EQ(AppPath() + " " + AppFile("Zarvo.dat"), "/opt/zarvo /opt/zarvo/Zarvo.dat");
-    SetAppPath("");
-    EXPECT_EQ(AppFile("Zarvo.dat"), "./Zarvo.dat");
-}
-
 // The program's directory is the folder it was started from, links not resolved: the launcher's per-user folder
 // of links to the installed game is the game's directory there. Only a start by name, which names no folder,
-// falls back to the real executable's.
+// falls back to the real executable's. Files beside the program are joined with one separator.
 TEST(Services, AppPathAsStarted)
 {
     const std::pair<const char*, const char*> cases[] = {
@@ -40,6 +31,10 @@ TEST(Services, AppPathAsStarted)
         {"build/bin/Zarvo", "/src/build/bin"}, {"./Zarvo", "/src"}, {"Zarvo", "/usr/lib/zarvo"}};
     for (const auto& [started, directory] : cases)
         EXPECT_EQ(AppPathAsStarted(started, "/src", "/usr/lib/zarvo"), directory) << started;
+    SetAppPath("/opt/zarvo/");
+    EXPECT_EQ(AppPath() + " " + AppFile("Zarvo.dat"), "/opt/zarvo /opt/zarvo/Zarvo.dat");
+    SetAppPath("");
+    EXPECT_EQ(AppFile("Zarvo.dat"), "./Zarvo.dat");
 }
 
 // The real message box: the text with each carriage return and line feed as one break, the icon, the

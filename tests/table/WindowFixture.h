@@ -15,24 +15,16 @@
 #include "frmMain.h"
 #include "modGlobalVars.h"
 
-struct AskedMessage {
-    std::string text;
-    int style;
-    std::string title;
-};
-
 class WindowTest : public testing::Test {
 protected:
     void SetUp() override
     {
         SetAppPath(dir.path().toStdString());
-        previous = SetMsgBoxHandler([this](const std::string& text, int style, const std::string& title) {
-            asked.push_back({text, style, title});
+        previous = SetMsgBoxHandler([this](const std::string& text, int, const std::string&) {
+            ++asked;
             EXPECT_FALSE(answers.empty()) << "unexpected message: " << text;
             const int answer = answers.empty() ? vbNo : answers.front();
-            if (!answers.empty())
-                answers.pop_front();
-            return answer;
+            return answers.empty() ? answer : (answers.pop_front(), answer);
         });
         gNewGameChoice = 0;
         form = std::make_unique<frmMain>();
@@ -61,6 +53,6 @@ protected:
     QTemporaryDir dir;
     std::unique_ptr<frmMain> form;
     std::deque<int> answers;
-    std::vector<AskedMessage> asked;   // the message boxes shown
+    int asked = 0;   // the message boxes shown
     MsgBoxHandler previous;
 };

@@ -46,7 +46,7 @@ TEST_F(Window, ClicksKeysShortcutsAndTheTimerReachTheGame)
     QTest::keyClick(form->cmdRoll, Qt::Key_Return);
     QTest::keyClick(form->cmdRoll, Qt::Key_Space);
     QTest::mouseClick(form->imgDie[3], Qt::RightButton);
-    EXPECT_EQ(asked.size(), 3u);
+    EXPECT_EQ(asked, 3);
     QTest::mouseClick(form->lblDie[1], Qt::LeftButton);   // the column, between the rows
     EXPECT_EQ(std::pair(form->DieTop(1), form->cmdRoll->text()), std::pair(RollRow, QString("Roll")));
     QTest::mouseClick(form->imgDie[1], Qt::LeftButton);   // on the die itself, now in RollRow
