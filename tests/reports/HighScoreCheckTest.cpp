@@ -4,6 +4,7 @@
 
 #include "DataFileFixture.h"
 #include "HighScoreCheck.h"
+#include "HighScoreLines.h"
 #include "PlayerStatistics.h"
 #include "modCommon.h"
 
@@ -79,3 +80,25 @@ TEST_P(CheckHighScoreTest, BeatsTheLowestStrictlyAndReplacesItInPlace)
     EXPECT_TRUE(c.table != Fresh || Bytes() + Listing() == file) << "nothing entered, yet the file changed";
 }
 INSTANTIATE_TEST_SUITE_P(HighScores, CheckHighScoreTest, ::testing::ValuesIn(Cases));
+
+// The table as the High Scores window shows it, best first: the older of two equal scores above,
+// today's entries bold but not this day of another year, a value that cannot be read blank, missing
+// rows empty. A file edited by hand to hold eleven rows still shows ten.
+TEST_F(F, HighScoreLinesBestFirst)
+{
+    MakeFreshFile();
+    Sql("DELETE FROM HighScores; INSERT INTO HighScores VALUES ('Gus', NULL, '2024-07-09 10:00'), ('Ivy', 160, 'soon'),"
+        "('Cy', 200, '2025-05-04 21:15'), ('Ann', 300, '2026-05-04 00:00:01'), ('Hal', 'lots', '2024-02-29 10:00'),"
+        "('Bo', 200, '2026-05-04 09:00')");
+    const auto shown = [] {
+        std::string all;
+        EXPECT_TRUE(OpenDataFile(false));
+        for (const HighScoreLine& l : ReadHighScoreLines({2026, 5, 4}))
+            all += l.player + "|" + l.score + "|" + l.date + (l.bold ? "*;" : ";");
+        return CloseDataFile(), all;
+    };
+    EXPECT_EQ(shown(), "||;||;||;||;Hal||Feb. 29, 2024;Ann|300|May. 4, 2026*;Cy|200|May. 4, 2025;Bo|200|May. 4, 2026*;"
+                       "Ivy|160|;Gus||Jul. 9, 2024;");
+    Sql("INSERT INTO HighScores SELECT * FROM HighScores LIMIT 5");
+    EXPECT_EQ(shown().substr(0, 4), "Hal|") << "ten of eleven, read from the lowest up: the tenth on top";
+}
