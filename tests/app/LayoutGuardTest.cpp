@@ -136,19 +136,14 @@ protected:
         gScores.ReDim(gPlayerNames.UBound()), ClearScoreboard(), ClearSessionStats(), gCurrentPlayer = 1;
         gHighScoreName = "Player 1";
         const QString& name = window[2];
-        QWidget* w = name == "frmMain" ? owner.get()
-                     : name == "frmPlayers" ? new frmPlayers(owner.get(), owner->Logic())
-                     : name == "frmHighScoreNotify" ? new frmHighScoreNotify(owner.get())
-                     : name == "frmHighScores" ? new frmHighScores(owner.get())
-                     : name == "frmSummary" ? new frmSummary(owner.get())
-                     : name == "frmNewGame" ? new frmNewGame(owner.get())
-                     : name == "frmAbout" ? static_cast<QWidget*>(new frmAbout(owner.get())) : nullptr;
-        if (name == "frmPlayerResults") {
-            auto* results = new frmPlayerResults(owner.get());
+        frmPlayerResults* results = name == "frmPlayerResults" ? new frmPlayerResults(owner.get()) : nullptr;
+        if (results)
             results->ShowValues();
-            w = results;
-        }
-        return w;
+        return name == "frmMain" ? owner.get() : name == "frmPlayers" ? new frmPlayers(owner.get(), owner->Logic())
+               : name == "frmHighScoreNotify" ? new frmHighScoreNotify(owner.get())
+               : name == "frmHighScores" ? new frmHighScores(owner.get()) : name == "frmSummary" ? new frmSummary(owner.get())
+               : name == "frmNewGame" ? new frmNewGame(owner.get())
+               : name == "frmAbout" ? static_cast<QWidget*>(new frmAbout(owner.get())) : results;
     }
 
     void Check(const Case& c)
@@ -162,9 +157,9 @@ protected:
         const QWidget* client = main                    ? main->centralWidget()
                                 : context == "frmAbout" ? window->findChild<QWidget*>("imgMain")->parentWidget()
                                                         : window;   // the About box's border lies around its client area
-        EXPECT_EQ(Row({QString::number(PixelsToTwips(client->width())), QString::number(PixelsToTwips(client->height())),
-                       window->windowTitle()}).join('|').toStdString(),
-                  Row({c.window[3], c.window[4], Shown(c.window[5], window->windowTitle(), context)}).join('|').toStdString());
+        EXPECT_EQ(QString("%1|%2|%3").arg(PixelsToTwips(client->width())).arg(PixelsToTwips(client->height())).arg(window->windowTitle())
+                      .toStdString(), QStringList({c.window[3], c.window[4], Shown(c.window[5], window->windowTitle(), context)}).join('|')
+                      .toStdString());
         QSet<QString> listed;
         QStringList keys;   // the captions of the window's buttons
         for (const Row& row : c.controls) {
@@ -186,9 +181,7 @@ protected:
                 EXPECT_EQ(w->geometry(), QRect(TwipsToPixels(at.left), TwipsToPixels(at.top), TwipsToPixels(at.width),
                                                TwipsToPixels(at.height))) << where;
                 if (w->isVisible())
-                    ExpectFits(w, where);
-                if (qobject_cast<const QPushButton*>(w) && w->isVisible())
-                    keys << CaptionOf(w);
+                    ExpectFits(w, where), keys << (qobject_cast<const QPushButton*>(w) ? CaptionOf(w) : QString());
             }
         }
         ExpectUniqueKeys(keys, c.window[1].toStdString());
