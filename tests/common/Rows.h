@@ -2,6 +2,7 @@
 // The rows of a plain table file beside the tests: each line's words, split at blanks, where a
 // quoted text is one word ("" an empty one); blank lines and lines starting with '#' are left out.
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -26,4 +27,14 @@ inline std::vector<Words> ReadRows(const std::string& path)
             rows.push_back(row);
     }
     return rows;
+}
+
+// "a|b" split at '|' into its parts; "" has none.
+inline Words Split(const std::string& text, char at)
+{
+    Words parts;
+    std::istringstream in(text);
+    for (std::string part; std::getline(in, part, at);)
+        parts.push_back(part);
+    return parts;
 }

@@ -1,22 +1,11 @@
 // The end of a card on plain code: the records, the one line, the bold marks, the figures
 // shown and the counted Player rows afterwards, against temporary data files (Statistics.txt).
-#include <sstream>
-
 #include "DataFileFixture.h"
 #include "Rows.h"
 #include "PlayerStatistics.h"
 #include "modCommon.h"
 
 namespace {
-std::vector<std::string> Split(const std::string& text, char at)
-{
-    std::vector<std::string> parts;
-    std::istringstream in(text);
-    for (std::string part; std::getline(in, part, at);)
-        parts.push_back(part);
-    return parts;
-}
-
 // The file of a row of Statistics.txt, as statements on a fresh one.
 std::string FileStatements(const std::string& file)
 {
