@@ -117,7 +117,7 @@ protected:
     }
 };
 
-TEST_F(WholeGame, PlayersChosenThenTwoGamesByMouseAndKeys)
+TEST_F(WholeGame, PlayersChosenThenAGameByMouseAndKeys)
 {
     std::vector<std::string> titles;   // of the message boxes, each answered Yes: Accept, the offer
     SetMsgBoxHandler([&titles](const std::string&, int, const std::string& title) { return titles.push_back(title), int(vbYes); });
