@@ -68,8 +68,8 @@ TEST(Translations, CompleteAndKeepTheirMarks)
 // In each language the player reads the game in it while the logic goes by its English texts:
 // the remembered placeholder player is asked to roll, "Accept" brings its question, a boxed cell
 // is scored, every comment line of the results window fits, a date reads as the language writes
-// it, and F1 opens the help in the language. The placeholders chosen in the player dialog are stored in English: the file
-// written under one language reads the same under the next.
+// it, and F1 opens the help in the language. The placeholders chosen in the player dialog are
+// stored in English: the file written under one language reads the same under the next.
 TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
 {
     for (const auto& built : fs::directory_iterator(fs::path(ZARVO_TRANSLATIONS).parent_path()))   // translations, help
@@ -78,12 +78,8 @@ TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
     MakeFreshFile();
     Sql("INSERT INTO Setup VALUES (-1, 0, 0, 0); INSERT INTO PlayersInUse VALUES (1, '< Player 1 >');");
     std::vector<std::string> titles;
-    SetMsgBoxHandler([&titles](const std::string&, int, const std::string& title) {
-        titles.push_back(title);
-        return int(vbYes);
-    });
+    SetMsgBoxHandler([&titles](const std::string&, int, const std::string& title) { return titles.push_back(title), int(vbYes); });
     for (const QStringList& language : ReadTable(ZARVO_LANGUAGES_TABLE)) {
-        const std::string accept = language[1].toStdString(), confirm = language[2].toStdString();
         SCOPED_TRACE(language[0].toStdString());
         LoadLanguage(QLocale(language[0]));
         frmMain form;
@@ -94,10 +90,10 @@ TEST_F(InEachLanguage, APlayerReadsItWhileTheLogicAndTheFileKeepEnglish)
         EXPECT_EQ(form.dlgHelp.HelpFile, AppFile(language[0] == "en" ? "Zarvo.hlp" : "Zarvo_" + language[0].toStdString() + ".hlp"));
         form.cmdRoll->click();
         form.Logic().tmrRoll_Timer();   // no animation: the roll ends on its first tick
-        EXPECT_EQ(form.cmdRoll->text().toStdString(), accept);
+        EXPECT_EQ(form.cmdRoll->text().toStdString(), language[1].toStdString());
         titles.clear();
         form.cmdRoll->click();   // no die marked: the question, answered Yes
-        ASSERT_EQ(titles, std::vector<std::string>{confirm});
+        ASSERT_EQ(titles, std::vector{language[2].toStdString()});
         QTest::mouseClick(form.Cell(CatChance), Qt::LeftButton);
         EXPECT_NE(gScores[1][CatChance], EmptyCell);
         EXPECT_EQ(FormatDate({2026, 11, 24}), language[5].toStdString());
