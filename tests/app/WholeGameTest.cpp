@@ -75,11 +75,9 @@ protected:
             }
             if (auto* h = dynamic_cast<frmHighScores*>(d))
                 shown += Texts(h->lblPlayerName[0], h->lblScore[0]) + (h->lblScore[0]->font().bold() ? " bold" : "");
-            if (auto* s = dynamic_cast<frmSummary*>(d))
+            if (auto* s = dynamic_cast<frmSummary*>(d))   // where its rows stand is the layout guard's
                 shown += Texts(s->lblName[1], s->lblLeft[1], s->lblRight[1], s->lblBonus[1], s->lblTotal[1], s->lblZarvos[1],
-                               s->lblTotalLeft, s->lblTotalTotal, s->lblTotalZarvos)
-                    + " @" + std::to_string(s->lblTotals->y() * 15) + " " + std::to_string(s->cmdOK->y() * 15) + " "
-                    + std::to_string(s->height() * 15) + (s->lblName[2]->isHidden() && s->lblZarvos[7]->isHidden() ? "" : " +rows");
+                               s->lblTotalLeft, s->lblTotalTotal, s->lblTotalZarvos);
             seen.push_back(shown);
             d->setProperty("answered", true);
             QTest::keyClick(d->focusWidget() ? d->focusWidget() : d, Qt::Key_Return);
@@ -171,7 +169,7 @@ TEST_F(WholeGame, PlayersChosenThenAGameByMouseAndKeys)
             ASSERT_EQ(form.Cell(t.category)->Caption(), t.cell) << "Ann's card is back";
         }
     }
-    const std::string summary = "Zarvo - Scoring Summary Bobby 12345  66  195  135  396  2  132  792  4 @1260 1680 2145";
+    const std::string summary = "Zarvo - Scoring Summary Bobby 12345  66  195  135  396  2  132  792  4";
     EXPECT_EQ(seen, (std::vector<std::string>{
         "Zarvo - Results Ann Scored: 396 Congratulations, an all-time high! 396 396 396", "Zarvo - High Score Ann>a b2cdefghi",
         "Zarvo - High Scores a b2cdefghi 396 bold", "Zarvo - Results Bobby 12345 Scored: 396 Congratulations, an all-time high! 396 396 396",
