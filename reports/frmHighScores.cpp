@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "Accessible.h"
 #include "ControlNames.h"
 #include "Frame.h"
 #include "Label.h"
@@ -58,6 +59,7 @@ bool frmHighScores::Form_Load()
         lblPlayerName[r]->SetCaption(QString::fromStdString(lines[r].player));
         lblScore[r]->SetCaption(QString::fromStdString(lines[r].score));
         lblDate[r]->SetCaption(QString::fromStdString(lines[r].date));
+        NameRow({lblNumbers[r], lblPlayerName[r], lblScore[r], lblDate[r]});
     }
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "Accessible.h"
 #include "ControlNames.h"
 #include "Look.h"
 #include "PlayerStatistics.h"
@@ -60,6 +61,9 @@ void frmPlayerResults::ShowValues()
     lblAllHigh->SetCaption(QString::fromStdString(shown.AllHigh));
     lblAllLow->SetCaption(QString::fromStdString(shown.AllLow));
     lblAllAvg->SetCaption(QString::fromStdString(shown.AllAvg));
+    for (const QList<Label*>& row : {QList<Label*>{lblSession, lblCurrentHigh, lblCurrentLow, lblCurrentAvg},
+                                     QList<Label*>{lblAll, lblAllHigh, lblAllLow, lblAllAvg}})
+        NameRow(row, {lblCurrentHighLbl, lblCurrentLowLbl, lblCurrentAvgLbl});
     // Bold only ever goes on: a record stays marked however the line reads.
     const std::pair<bool, Label*> marks[] = {{shown.BoldCurrentHigh, lblCurrentHigh},
                                              {shown.BoldCurrentLow, lblCurrentLow},

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <vector>
 
+#include "Accessible.h"
 #include "ControlNames.h"
 #include "Look.h"
 #include "NumberText.h"
@@ -113,6 +114,7 @@ void frmSummary::DrawGridLines(int shift)
 void frmSummary::FillSummaryGrid()
 {
     const SummaryFigures figures = SumSummaryGrid();
+    const QList<const Label*> heads{lblLeftLbl, lblRightLbl, lblBonusLbl, lblTotalLbl, lblZarvoLbl};
     for (int p = 1; p <= gPlayerNames.UBound(); ++p) {
         const SummaryLine& line = figures.players[p - 1];
         lblName[p - 1]->SetCaption(QString::fromStdString(PlayerDisplayName(p)));
@@ -121,10 +123,12 @@ void frmSummary::FillSummaryGrid()
         lblBonus[p - 1]->SetCaption(Number(line.Bonus));
         lblTotal[p - 1]->SetCaption(Number(line.Total));
         lblZarvos[p - 1]->SetCaption(Number(line.Zarvos));
+        NameRow({lblName[p - 1], lblLeft[p - 1], lblRight[p - 1], lblBonus[p - 1], lblTotal[p - 1], lblZarvos[p - 1]}, heads);
     }
     lblTotalLeft->SetCaption(Number(figures.totals.Left));
     lblTotalRight->SetCaption(Number(figures.totals.Right));
     lblTotalBonus->SetCaption(Number(figures.totals.Bonus));
     lblTotalTotal->SetCaption(Number(figures.totals.Total));
     lblTotalZarvos->SetCaption(Number(figures.totals.Zarvos));
+    NameRow({lblTotals, lblTotalLeft, lblTotalRight, lblTotalBonus, lblTotalTotal, lblTotalZarvos}, heads);
 }

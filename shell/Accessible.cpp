@@ -106,3 +106,16 @@ void SetAccessibleCheck(QWidget* label, std::optional<bool> checked)
     QAccessibleStateChangeEvent event(label, changed);
     QAccessible::updateAccessibility(&event);
 }
+
+void NameRow(const QList<Label*>& cells, const QList<const Label*>& heads)
+{
+    QStringList parts;
+    for (qsizetype i = 1; i < cells.size(); ++i)
+        if (!cells[i]->Caption().trimmed().isEmpty())
+            parts << (i <= heads.size() ? SpokenCaption(heads[i - 1]->Caption()) + ' ' : QString()) + cells[i]->Caption().trimmed();
+    if (parts.isEmpty())
+        return;
+    const QString row = SpokenCaption(cells[0]->Caption()).trimmed() + ' ' + parts.join(", ");
+    for (Label* cell : cells)
+        cell->setAccessibleName(row);
+}
