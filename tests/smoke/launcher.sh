@@ -44,6 +44,7 @@ the program link is another's    | -         | root | mkdir -p -m 700 $O; ln -s 
 a file where a link goes         | -         | -    | mkdir -p -m 700 $O; echo mine >$O/Zarvo.hlp         | refuse $O/Zarvo.hlp is not a link to | :
 the data home is another user's  | $H/theirs | root | mkdir -p -m 755 $O; chmod 700 $O; give $D $O        | refuse $D does not belong to you | :
 the data home is open to all     | $H/open   | -    | mkdir -p $D; chmod 777 $D                           | refuse $D can be written by others | :
+the data home is open to a group | $H/shared | root | mkdir -p $D; chgrp 65534 $D; chmod 775 $D    | refuse $D can be written by others | :
 the data home is sticky, as /tmp | $H/tmp    | -    | mkdir -p $D; chmod 1777 $D                          | start   | :
 the data home is the user group's| $H/group  | -    | mkdir -p $D; chgrp $(id -g) $D; chmod 775 $D        | start   | :
 TABLE
@@ -68,10 +69,10 @@ while IFS='|' read -r what xdg needs setup expect then; do
   problem=
   case $(echo $expect) in
     start)
-      links="$(readlink "$O/Zarvo") $(readlink "$O/Zarvo.hlp") $(readlink "$O/translations")"
       if [ $status != 0 ] || [ -n "$err" ]; then problem="exit $status: $err"
       elif [ "$(cat "$top/started" 2>/dev/null)" != "$O/Zarvo 0077" ]; then problem="the game was not started from $O"
-      elif [ "$links" != "$I/Zarvo $I/Zarvo.hlp $I/translations" ]; then problem="links: $links"
+      elif [ "$(readlink "$O/Zarvo" "$O/Zarvo.hlp" "$O/translations" | xargs)" != "$I/Zarvo $I/Zarvo.hlp $I/translations" ]
+      then problem="the links to the program folder"
       elif [ -L "$O/Zarvo.dat" ] || [ "$(stat -c %a "$O") $(stat -c %a "$O/Zarvo.dat")" != "700 600" ]; then
         problem="the folder or its data file is open to others"
       elif ! (cd "$top/case" && eval "$then"); then problem="failed: $then"
