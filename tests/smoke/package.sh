@@ -6,7 +6,7 @@
 # private folder of links beside a data file of their own, keeps the option they changed, finds
 # the program folder's new entries at the next start, and the package's data file stays fresh.
 set -euo pipefail
-source=$1
+tree=$1
 xwindow=$2
 top=$(mktemp -d)
 trap 'rm -rf "$top"' EXIT
@@ -16,13 +16,13 @@ source "$(dirname "$0")/play.sh"
 # build FOLDER: copies the source tree (without its builds) there and builds the package in it.
 build() {
   mkdir -p "$top/$1/zarvo"
-  tar -C "$source" --exclude=./.git --exclude='./build*' --exclude='./obj-*' -cf - . | tar -C "$top/$1/zarvo" -xf -
+  tar -C "$tree" --exclude=./.git --exclude='./build*' --exclude='./obj-*' -cf - . | tar -C "$top/$1/zarvo" -xf -
   (cd "$top/$1/zarvo" && DEB_BUILD_OPTIONS="parallel=$(nproc)" dpkg-buildpackage -us -uc -b >"$top/$1.log" 2>&1) \
     || { tail -30 "$top/$1.log"; fail "dpkg-buildpackage failed in $1"; }
 }
 build one
 build two
-name=zarvo_$(dpkg-parsechangelog -l "$source/debian/changelog" -S Version)_$(dpkg --print-architecture).deb
+name=zarvo_$(dpkg-parsechangelog -l "$tree/debian/changelog" -S Version)_$(dpkg --print-architecture).deb
 deb=$top/one/$name
 [ -f "$deb" ] || fail "no $name: $(ls "$top/one")"
 if ! cmp -s "$deb" "$top/two/$name"; then
