@@ -16,7 +16,8 @@ packages=(
   xvfb xauth libx11-dev            # the smoke test of the real window
   desktop-file-utils appstream     # the install test validates the menu entry and metadata
   xdotool sqlite3                  # ... and plays the installed game, reading its data file
-  dpkg-dev lintian                 # the Debian package: its dependencies, and its check
+  dpkg-dev debhelper lintian       # the Debian package (dpkg-buildpackage), and its check;
+                                   # build/ takes the package's hardening flags from dpkg-buildflags
   qt6-l10n-tools                   # lupdate and lrelease, for Zarvo's German and French
   qt6-translations-l10n            # Qt's own texts (message box buttons, the help's search) in them
 )

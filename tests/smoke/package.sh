@@ -1,28 +1,45 @@
 #!/usr/bin/env bash
-# The Debian package that cpack makes from the build: its name and file list, no lintian error
-# (lintian also errs on a missing dependency on the C library, so the computed ones are there).
-# Unpacked into a temporary folder, its launcher is started for two users: each gets a private
-# folder of links beside a data file of their own, keeps the option they changed, finds the
-# program folder's new entries at the next start, and the package's data file stays fresh.
+# The Debian package as the README makes it: `dpkg-buildpackage -us -uc -b`, run in two copies of
+# the source tree, one after the other, gives the same .deb byte for byte (reproducible: no build
+# time or path in it). The package has its name, its files and no lintian finding beyond the
+# overrides. Unpacked into a temporary folder, its launcher is started for two users: each gets a
+# private folder of links beside a data file of their own, keeps the option they changed, finds
+# the program folder's new entries at the next start, and the package's data file stays fresh.
 set -euo pipefail
-build=$1
+tree=$1
 xwindow=$2
 top=$(mktemp -d)
 trap 'rm -rf "$top"' EXIT
 fail() { echo "package: $*"; exit 1; }
 source "$(dirname "$0")/play.sh"
 
-(cd "$build" && cpack -G DEB -B "$top/out" >/dev/null)
-deb=$(ls "$top"/out/*.deb)
-[ "${deb##*/}" = "zarvo_$(dpkg-deb -f "$deb" Version)_$(dpkg --print-architecture).deb" ] || fail "named ${deb##*/}"
+# build FOLDER: copies the source tree (without its builds) there and builds the package in it.
+build() {
+  mkdir -p "$top/$1/zarvo"
+  tar -C "$tree" --exclude=./.git --exclude='./build*' --exclude='./obj-*' -cf - . | tar -C "$top/$1/zarvo" -xf -
+  (cd "$top/$1/zarvo" && DEB_BUILD_OPTIONS="parallel=$(nproc)" dpkg-buildpackage -us -uc -b >"$top/$1.log" 2>&1) \
+    || { tail -30 "$top/$1.log"; fail "dpkg-buildpackage failed in $1"; }
+}
+build one
+build two
+name=zarvo_$(dpkg-parsechangelog -l "$tree/debian/changelog" -S Version)_$(dpkg --print-architecture).deb
+deb=$top/one/$name
+[ -f "$deb" ] || fail "no $name: $(ls "$top/one")"
+if ! cmp -s "$deb" "$top/two/$name"; then
+  dpkg-deb -R "$deb" "$top/one/x" && dpkg-deb -R "$top/two/$name" "$top/two/x"
+  diff -r "$top/one/x" "$top/two/x" | head -5
+  fail "two builds of one source differ"
+fi
+
 files=$(dpkg-deb -c "$deb" | awk '{print $6}')
 for f in games/zarvo lib/zarvo/Zarvo{,.hlp,_de.hlp,_fr.hlp,.dat} lib/zarvo/translations/zarvo_{de,fr}.qm \
          share/applications/org.zarvo.Zarvo.desktop \
          share/icons/hicolor/{scalable/apps/org.zarvo.Zarvo.svg,48x48/apps/org.zarvo.Zarvo.png} \
-         share/metainfo/org.zarvo.Zarvo.metainfo.xml share/{man/man6/zarvo.6.gz,doc/zarvo/copyright}; do
+         share/metainfo/org.zarvo.Zarvo.metainfo.xml share/man/man6/zarvo.6.gz \
+         share/doc/zarvo/{copyright,changelog.gz}; do
   grep -qx "./usr/$f" <<<"$files" || fail "$f is not in the package"
 done
-lintian --fail-on error "$deb" || fail "lintian reports errors"
+lintian -I -E --pedantic --fail-on error,warning,info,pedantic,experimental "$deb" || fail "lintian reports findings"
 
 dpkg-deb -x "$deb" "$top/root"
 installed=$top/root/usr/lib/zarvo
@@ -43,4 +60,4 @@ options="$(preview "$ann"),$(preview "$bob"),$(preview "$installed")"
 [ "$(stat -c %a "$ann") $(stat -c %a "$bob")" = "700 700" ] || fail "a user's folder is open to others"
 [ "$(readlink "$ann/Zarvo")" = "$installed/Zarvo" ] && [ -L "$ann/added" ] && [ ! -L "$ann/removed" ] \
   || fail "Ann's folder does not follow the program folder"
-echo "package: built, listed, lintian clean; two users kept records of their own"
+echo "package: built twice alike ($(sha256sum <"$deb" | cut -c1-16)), listed, lintian clean; two users kept records of their own"
