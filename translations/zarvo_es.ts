@@ -261,87 +261,87 @@ guardados de este jugador.</translation>
     <name>SpokenTable</name>
     <message>
         <source>Rolling</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirando</translation>
     </message>
     <message>
         <source>one</source>
-        <translation type="unfinished">uno</translation>
+        <translation>uno</translation>
     </message>
     <message>
         <source>two</source>
-        <translation type="unfinished">dos</translation>
+        <translation>dos</translation>
     </message>
     <message>
         <source>three</source>
-        <translation type="unfinished">tres</translation>
+        <translation>tres</translation>
     </message>
     <message>
         <source>four</source>
-        <translation type="unfinished">cuatro</translation>
+        <translation>cuatro</translation>
     </message>
     <message>
         <source>five</source>
-        <translation type="unfinished">cinco</translation>
+        <translation>cinco</translation>
     </message>
     <message>
         <source>six</source>
-        <translation type="unfinished">seis</translation>
+        <translation>seis</translation>
     </message>
     <message>
         <source>Die %1: on the pile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dado %1: en el montón</translation>
     </message>
     <message>
         <source>Keep die %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar dado %1: %2</translation>
     </message>
     <message>
         <source>Die %1: %2</source>
-        <translation type="unfinished">Dado %1: %2</translation>
+        <translation>Dado %1: %2</translation>
     </message>
     <message>
         <source>open</source>
-        <translation type="unfinished">libre</translation>
+        <translation>libre</translation>
     </message>
     <message>
         <source>open, would score nothing</source>
-        <translation type="unfinished">libre, no daría nada</translation>
+        <translation>libre, no daría nada</translation>
     </message>
     <message>
         <source>open, would score %1 and a bonus of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>libre, daría %1 y un bonus de %2</translation>
     </message>
     <message>
         <source>open, would score %1</source>
-        <translation type="unfinished">libre, daría %1</translation>
+        <translation>libre, daría %1</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Dados</translation>
+        <translation>Dados</translation>
     </message>
     <message>
         <source>No rolls left.</source>
-        <translation type="unfinished"></translation>
+        <translation>No quedan tiradas.</translation>
     </message>
     <message>
         <source>One roll left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Queda una tirada.</translation>
     </message>
     <message>
         <source>Two rolls left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quedan dos tiradas.</translation>
     </message>
     <message>
         <source>Rolled %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Has sacado %1.</translation>
     </message>
     <message>
         <source>%1: %2 and a bonus of %3 written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 y un bonus de %3 anotados.</translation>
     </message>
     <message>
         <source>%1: %2 written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 anotados.</translation>
     </message>
 </context>
 <context>

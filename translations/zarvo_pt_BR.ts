@@ -261,87 +261,87 @@ salvas dele serão perdidas.</translation>
     <name>SpokenTable</name>
     <message>
         <source>Rolling</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolando</translation>
     </message>
     <message>
         <source>one</source>
-        <translation type="unfinished">um</translation>
+        <translation>um</translation>
     </message>
     <message>
         <source>two</source>
-        <translation type="unfinished">dois</translation>
+        <translation>dois</translation>
     </message>
     <message>
         <source>three</source>
-        <translation type="unfinished">três</translation>
+        <translation>três</translation>
     </message>
     <message>
         <source>four</source>
-        <translation type="unfinished">quatro</translation>
+        <translation>quatro</translation>
     </message>
     <message>
         <source>five</source>
-        <translation type="unfinished">cinco</translation>
+        <translation>cinco</translation>
     </message>
     <message>
         <source>six</source>
-        <translation type="unfinished">seis</translation>
+        <translation>seis</translation>
     </message>
     <message>
         <source>Die %1: on the pile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dado %1: no monte</translation>
     </message>
     <message>
         <source>Keep die %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar dado %1: %2</translation>
     </message>
     <message>
         <source>Die %1: %2</source>
-        <translation type="unfinished">Dado %1: %2</translation>
+        <translation>Dado %1: %2</translation>
     </message>
     <message>
         <source>open</source>
-        <translation type="unfinished">livre</translation>
+        <translation>livre</translation>
     </message>
     <message>
         <source>open, would score nothing</source>
-        <translation type="unfinished">livre, não daria pontos</translation>
+        <translation>livre, não daria pontos</translation>
     </message>
     <message>
         <source>open, would score %1 and a bonus of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>livre, daria %1 e um bônus de %2</translation>
     </message>
     <message>
         <source>open, would score %1</source>
-        <translation type="unfinished">livre, daria %1</translation>
+        <translation>livre, daria %1</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Dados</translation>
+        <translation>Dados</translation>
     </message>
     <message>
         <source>No rolls left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma jogada restante.</translation>
     </message>
     <message>
         <source>One roll left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Resta uma jogada.</translation>
     </message>
     <message>
         <source>Two rolls left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Restam duas jogadas.</translation>
     </message>
     <message>
         <source>Rolled %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Você tirou %1.</translation>
     </message>
     <message>
         <source>%1: %2 and a bonus of %3 written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 e um bônus de %3 marcados.</translation>
     </message>
     <message>
         <source>%1: %2 written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 marcados.</translation>
     </message>
 </context>
 <context>

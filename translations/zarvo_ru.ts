@@ -261,87 +261,87 @@ for the player will be lost.</source>
     <name>SpokenTable</name>
     <message>
         <source>Rolling</source>
-        <translation type="unfinished"></translation>
+        <translation>Бросок</translation>
     </message>
     <message>
         <source>one</source>
-        <translation type="unfinished">один</translation>
+        <translation>один</translation>
     </message>
     <message>
         <source>two</source>
-        <translation type="unfinished">два</translation>
+        <translation>два</translation>
     </message>
     <message>
         <source>three</source>
-        <translation type="unfinished">три</translation>
+        <translation>три</translation>
     </message>
     <message>
         <source>four</source>
-        <translation type="unfinished">четыре</translation>
+        <translation>четыре</translation>
     </message>
     <message>
         <source>five</source>
-        <translation type="unfinished">пять</translation>
+        <translation>пять</translation>
     </message>
     <message>
         <source>six</source>
-        <translation type="unfinished">шесть</translation>
+        <translation>шесть</translation>
     </message>
     <message>
         <source>Die %1: on the pile</source>
-        <translation type="unfinished"></translation>
+        <translation>Кубик %1: в куче</translation>
     </message>
     <message>
         <source>Keep die %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Оставить кубик %1: %2</translation>
     </message>
     <message>
         <source>Die %1: %2</source>
-        <translation type="unfinished">Кубик %1: %2</translation>
+        <translation>Кубик %1: %2</translation>
     </message>
     <message>
         <source>open</source>
-        <translation type="unfinished">свободна</translation>
+        <translation>свободна</translation>
     </message>
     <message>
         <source>open, would score nothing</source>
-        <translation type="unfinished">свободна, ничего не даст</translation>
+        <translation>свободна, ничего не даст</translation>
     </message>
     <message>
         <source>open, would score %1 and a bonus of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>свободна, даст %1 и бонус %2</translation>
     </message>
     <message>
         <source>open, would score %1</source>
-        <translation type="unfinished">свободна, даст %1</translation>
+        <translation>свободна, даст %1</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Кубики</translation>
+        <translation>Кубики</translation>
     </message>
     <message>
         <source>No rolls left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Бросков не осталось.</translation>
     </message>
     <message>
         <source>One roll left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Остался один бросок.</translation>
     </message>
     <message>
         <source>Two rolls left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Осталось два броска.</translation>
     </message>
     <message>
         <source>Rolled %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выпало: %1.</translation>
     </message>
     <message>
         <source>%1: %2 and a bonus of %3 written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: записано %2 и бонус %3.</translation>
     </message>
     <message>
         <source>%1: %2 written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: записано %2.</translation>
     </message>
 </context>
 <context>
