@@ -112,6 +112,7 @@ private:
     QAction* OptionItem(Option option) const;
     SetupMarks Marks() const;
     void WakeRollTimer();
+    void PlaceDie(int i, int left, int top);
     void mnuInstructions_Click();
     void mnuAbout_Click();
 

@@ -93,19 +93,12 @@ void frmMain::SetDieLabelsVisible(bool visible)
 }
 
 int frmMain::DieLeft(int i) const { return PlaceOf(imgDie[i]).left; }
-void frmMain::SetDieLeft(int i, int left)
-{
-    TwipRect place = PlaceOf(imgDie[i]);
-    place.left = left;
-    Place(imgDie[i], place);
-    voice_.NameDie(i);
-}
+void frmMain::SetDieLeft(int i, int left) { PlaceDie(i, left, DieTop(i)); }
 int frmMain::DieTop(int i) const { return PlaceOf(imgDie[i]).top; }
-void frmMain::SetDieTop(int i, int top)
+void frmMain::SetDieTop(int i, int top) { PlaceDie(i, DieLeft(i), top); }
+void frmMain::PlaceDie(int i, int left, int top)
 {
-    TwipRect place = PlaceOf(imgDie[i]);
-    place.top = top;
-    Place(imgDie[i], place);
+    Place(imgDie[i], {left, top, PlaceOf(imgDie[i]).width, PlaceOf(imgDie[i]).height});
     voice_.NameDie(i);
 }
 void frmMain::SetDieVisible(int i, bool visible) { imgDie[i]->setVisible(visible); }
