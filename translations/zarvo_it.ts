@@ -470,7 +470,7 @@ salvati andranno persi.</translation>
     </message>
     <message>
         <source>Fours....</source>
-        <translation>Quattro.</translation>
+        <translation>Quattro..</translation>
     </message>
     <message>
         <source>Score total of fours showing.</source>
