@@ -46,8 +46,8 @@ std::string Marks(const QString& text)
     for (const auto& m : marker.globalMatch(text))
         markers << m.captured();
     markers.sort();
-    return QString("%1 lines %2 keys %3").arg(markers.join(',')).arg(text.count('\n')).arg(QString(text).remove("&&").count('&'))
-        .toStdString();
+    return (markers.join(',') + " lines " + QString::number(text.count('\n')) + " keys "
+            + QString::number(QString(text).remove("&&").count('&'))).toStdString();
 }
 
 using InEachLanguage = DataFileFixture;
