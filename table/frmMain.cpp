@@ -6,7 +6,7 @@
 #include <QFrame>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QLayout>
+#include <QVBoxLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -50,11 +50,10 @@ frmMain::frmMain()
     DrawDieFaces();
     QApplication::setWindowIcon(QIcon(ilsDie[5]));   // the program's icon, on every window that shows one
 
-    auto* client = new QWidget(this);
-    client->setFixedSize(TwipsToPixels(ClientWidth), TwipsToPixels(ClientHeight));
-    setCentralWidget(client);
+    client_ = new QWidget(this);
+    client_->setFixedSize(TwipsToPixels(ClientWidth), TwipsToPixels(ClientHeight));
 
-    cmdRoll = new QPushButton(client);   // created first: first in the tab order
+    cmdRoll = new QPushButton(client_);   // created first: first in the tab order
     SetCaption(Control::cmdRoll, "Roll");
     Place(cmdRoll, {3120, 4080, 1335, 375});
     cmdRoll->setToolTip(tr("Roll or accept roll."));
@@ -64,7 +63,7 @@ frmMain::frmMain()
         WakeRollTimer();
     });
 
-    picDisplayer = NewDiceField(client);
+    picDisplayer = NewDiceField(client_);
     Place(picDisplayer, {150, 120, 4275, 1755});
     picDisplayer->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     picDisplayer->setLineWidth(PanelBorderPixels);
@@ -73,13 +72,17 @@ frmMain::frmMain()
                                                      -PanelBorderPixels, -PanelBorderPixels));
     CreateDiceField(field);
 
-    fraScoreboard = new Frame(client);
+    fraScoreboard = new Frame(client_);
     Place(fraScoreboard, {120, 1920, 4335, 2055});
     CreateScoreboard();
     CreateMenu();
     SetNames({{cmdRoll, "cmdRoll"}, {picDisplayer, "picDisplayer"}, {fraScoreboard, "fraScoreboard"}});
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
-    layout()->activate();   // fixes the size now, not at the first show
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setMenuBar(menuBar_);
+    layout->addWidget(client_);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->activate();   // fixes the size now, not at the first show
 
     tmrRoll = new QTimer(this);
     tmrRoll->setTimerType(Qt::PreciseTimer);
@@ -120,7 +123,7 @@ bool frmMain::event(QEvent* event)
         for (int i = 0; i < 5; ++i)
             imgDie[i]->SetPicture((dieCursor_[i] ? ilsDieInv : ilsDie)[dieFace_[i]]);
     }
-    return QMainWindow::event(event);
+    return QWidget::event(event);
 }
 
 void frmMain::CreateDiceField(QWidget* field)
@@ -233,14 +236,15 @@ void frmMain::CreateScoreboard()
 
 void frmMain::CreateMenu()
 {
-    mnuFile = menuBar()->addMenu(tr("&File"));
+    menuBar_ = new QMenuBar(this);
+    mnuFile = menuBar_->addMenu(tr("&File"));
     mnuNewGame = mnuFile->addAction(tr("&New Game"));
     mnuNewGame->setShortcut(Qt::Key_F3);
     mnuNewPlayers = mnuFile->addAction(tr("Change &Players..."));
     mnuFile->addSeparator();
     mnuExit = mnuFile->addAction(tr("E&xit"));
 
-    mnuOptions = menuBar()->addMenu(tr("&Options"));
+    mnuOptions = menuBar_->addMenu(tr("&Options"));
     mnuRememberPlayers = mnuOptions->addAction(tr("&Remember Players"));
     mnuOptions->addSeparator();
     mnuUseKeyboard = mnuOptions->addAction(tr("Use &Keyboard"));
@@ -256,7 +260,7 @@ void frmMain::CreateMenu()
     mnuScoringSummary = mnuOptions->addAction(tr("Scoring Su&mmary..."));
     mnuHighScores = mnuOptions->addAction(tr("&High Scores..."));
 
-    mnuHelp = menuBar()->addMenu(tr("&Help"));
+    mnuHelp = menuBar_->addMenu(tr("&Help"));
     mnuInstructions = mnuHelp->addAction(tr("&Contents..."));
     mnuInstructions->setShortcut(Qt::Key_F1);
     mnuHelp->addSeparator();

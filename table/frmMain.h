@@ -2,7 +2,7 @@
 // The game table window: the dice field, the current player's card, cmdRoll and the menu.
 // The game's rules are in GameTable (core); this window gives them its controls through
 // TableScreen and routes the clicks, keys, menu commands and timer ticks to them.
-#include <QMainWindow>
+#include <QWidget>
 #include <array>
 
 #include "Dialogs.h"
@@ -16,6 +16,7 @@
 class QAction;
 class QFrame;
 class QMenu;
+class QMenuBar;
 class QPushButton;
 class QTimer;
 
@@ -25,7 +26,9 @@ class QTimer;
 // to keep a player waiting.
 constexpr int RollTickMilliseconds = 15;
 
-class frmMain : public QMainWindow, public TableScreen {
+// A plain window with its menu bar laid out above the client area: a QMainWindow would bring
+// its dock and tool bar machinery, about half a megabyte more at start, for nothing used here.
+class frmMain : public QWidget, public TableScreen {
     Q_OBJECT
 public:
     frmMain();
@@ -35,6 +38,8 @@ public:
     void SetDialogs(Dialogs* dialogs) { dialogs_ = dialogs; }
     void Form_Load();
     GameTable& Logic() { return logic_; }
+    QWidget* Client() const { return client_; }   // the area below the menu bar
+    QMenuBar* MenuBar() const { return menuBar_; }
 
     // The controls, by their documented names; index bases as documented.
     QFrame* picDisplayer = nullptr;
@@ -116,6 +121,8 @@ private:
     void mnuInstructions_Click();
     void mnuAbout_Click();
 
+    QWidget* client_ = nullptr;
+    QMenuBar* menuBar_ = nullptr;
     GameTable logic_{*this};
     SpokenTable voice_{*this, logic_};
     Dialogs* dialogs_ = nullptr;

@@ -78,7 +78,7 @@ void frmMain::SetEnabled(Control c, bool enabled)
     if (!w)
         return mnuScoringSummary->setEnabled(enabled);
     if (!enabled && w->hasFocus())
-        centralWidget()->setFocus();   // Qt would hand the focus on to the next control, a total
+        client_->setFocus();   // Qt would hand the focus on to the next control, a total
     w->setEnabled(enabled);
 }
 
@@ -171,7 +171,7 @@ void frmMain::SetFocusOnForm()
     // waiting for the player: the screen reader hears what has just happened.
     if (isVisible() && !QApplication::activeModalWidget()) {
         activateWindow();
-        centralWidget()->setFocus();
+        client_->setFocus();
     }
     voice_.Settled();
 }

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -153,8 +152,8 @@ protected:
         ASSERT_TRUE(window) << c.window[2].toStdString();
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
-        const auto* main = qobject_cast<QMainWindow*>(window);
-        const QWidget* client = main                    ? main->centralWidget()
+        const auto* main = qobject_cast<frmMain*>(window);
+        const QWidget* client = main                    ? main->Client()
                                 : context == "frmAbout" ? window->findChild<QWidget*>("imgMain")->parentWidget()
                                                         : window;   // the About box's border lies around its client area
         EXPECT_EQ(QString("%1|%2|%3").arg(PixelsToTwips(client->width())).arg(PixelsToTwips(client->height())).arg(window->windowTitle())
@@ -186,8 +185,8 @@ protected:
         }
         ExpectUniqueKeys(keys, c.window[1].toStdString());
         if (main) {
-            ExpectUniqueKeys(main->menuBar());
-            for (const QMenu* menu : main->menuBar()->findChildren<QMenu*>())
+            ExpectUniqueKeys(main->MenuBar());
+            for (const QMenu* menu : main->MenuBar()->findChildren<QMenu*>())
                 ExpectUniqueKeys(menu);
         }
         static const QRegularExpression own("^((lbl|blb|cmd|img|pic|fra|cbo|txt|lin|mnu)[A-Z0-9]|Line\\d)");

@@ -111,7 +111,7 @@ TEST_F(ScreenReader, FollowsTheCursorAndTellsEachRollAndScore)
 TEST_F(WindowTest, DiceAreSharpAtTheScreensDensity)
 {
     const qreal ratio = form->devicePixelRatioF();
-    EXPECT_EQ(form->centralWidget()->grab().size(), QSize(4575 / 15, 4560 / 15) * ratio);
+    EXPECT_EQ(form->Client()->grab().size(), QSize(4575 / 15, 4560 / 15) * ratio);
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(form->imgDie[i]->Picture().toImage(), DrawDieFace(form->DieFace(i), ImageList::ilsDie, ratio)) << i;
 }
