@@ -33,10 +33,20 @@ void ShowOpenError()
                                     "'Zarvo.dat' exists in this directory."),
            vbOKOnly | vbCritical, Translate("modDatabase", "Zarvo - Data File Error"));
 }
+
+// A game reads and writes a few rows of a small file. SQLite's reserves for each connection
+// (lookaside slots and a block of page cache) suit large databases and would be most of its
+// heap here. Only possible before SQLite starts; a later call is refused and changes nothing.
+void UseLittleMemory()
+{
+    sqlite3_config(SQLITE_CONFIG_LOOKASIDE, 0, 0);
+    sqlite3_config(SQLITE_CONFIG_PAGECACHE, nullptr, 0, 0);
+}
 }
 
 bool OpenDataFile(bool ShowError)
 {
+    [[maybe_unused]] static const bool configured = (UseLittleMemory(), true);
     sqlite3* raw = nullptr;
     const int opened =
         sqlite3_open_v2(AppFile("Zarvo.dat").c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
