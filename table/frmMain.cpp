@@ -103,14 +103,23 @@ frmMain::frmMain()
 
 frmMain::~frmMain() { qApp->removeEventFilter(this); }
 
-// The image lists at the resolution of the screen the window is on.
+// The image lists at the resolution of the screen the window is on. The cursor look is drawn
+// when the keyboard cursor first needs it: most games are played by mouse.
 void frmMain::DrawDieFaces()
 {
-    const qreal scale = devicePixelRatioF();
     for (int face = 1; face <= 6; ++face) {
-        ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie, scale));
-        ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDieInv, scale));
+        ilsDie[face] = QPixmap::fromImage(DrawDieFace(face, ImageList::ilsDie, devicePixelRatioF()));
+        ilsDieInv[face] = QPixmap();
     }
+}
+
+const QPixmap& frmMain::DiePicture(ImageList list, int face)
+{
+    if (list == ImageList::ilsDie)
+        return ilsDie[face];
+    if (ilsDieInv[face].isNull())
+        ilsDieInv[face] = QPixmap::fromImage(DrawDieFace(face, list, devicePixelRatioF()));
+    return ilsDieInv[face];
 }
 
 bool frmMain::event(QEvent* event)
@@ -121,7 +130,7 @@ bool frmMain::event(QEvent* event)
     if (event->type() == QEvent::ScreenChangeInternal && ilsDie[1].devicePixelRatio() != devicePixelRatioF()) {
         DrawDieFaces();
         for (int i = 0; i < 5; ++i)
-            imgDie[i]->SetPicture((dieCursor_[i] ? ilsDieInv : ilsDie)[dieFace_[i]]);
+            imgDie[i]->SetPicture(DiePicture(dieCursor_[i] ? ImageList::ilsDieInv : ImageList::ilsDie, dieFace_[i]));
     }
     return QWidget::event(event);
 }

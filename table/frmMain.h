@@ -110,6 +110,7 @@ protected:
 
 private:
     void DrawDieFaces();
+    const QPixmap& DiePicture(ImageList list, int face);
     void CreateDiceField(QWidget* field);
     void CreateScoreboard();
     void CreateMenu();

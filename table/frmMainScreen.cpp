@@ -107,7 +107,7 @@ void frmMain::SetDiePicture(int i, ImageList list, int face)
 {
     if (face < 1 || face > 6)
         return;
-    imgDie[i]->SetPicture(list == ImageList::ilsDie ? ilsDie[face] : ilsDieInv[face]);
+    imgDie[i]->SetPicture(DiePicture(list, face));
     dieFace_[i] = face;
     dieCursor_[i] = list == ImageList::ilsDieInv;
     voice_.NameDie(i);

@@ -112,6 +112,10 @@ TEST_F(WindowTest, DiceAreSharpAtTheScreensDensity)
 {
     const qreal ratio = form->devicePixelRatioF();
     EXPECT_EQ(form->Client()->grab().size(), QSize(4575 / 15, 4560 / 15) * ratio);
+    form->mnuUseKeyboard->trigger();   // after a roll, the cursor's look too, drawn when first needed
+    logic().cmdRoll_Click();
+    FinishRoll();
     for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(form->imgDie[i]->Picture().toImage(), DrawDieFace(form->DieFace(i), ImageList::ilsDie, ratio)) << i;
+        EXPECT_EQ(form->imgDie[i]->Picture().toImage(),
+                  DrawDieFace(form->DieFace(i), i == form->Logic().mKeyCursor ? ImageList::ilsDieInv : ImageList::ilsDie, ratio)) << i;
 }
