@@ -9,7 +9,7 @@ build=${BUILD_DIR:-$root/build}
 bin=$build/bin
 xwindow=$build/bench/xwindow
 bench=$build/bench
-runs=${RUNS:-7}
+runs=${RUNS:-15}
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -32,13 +32,21 @@ startup() {   # program, window title -> "ms peak_kB"
   sleep 0.5
   echo "$ms $(awk '/VmHWM/ {print $2}' /proc/$pid/status)"
   kill $pid; wait $pid 2>/dev/null || true
+  sleep 0.2   # the display server tidies up after the program before the next one starts
 }
 
-for program in "Zarvo:en:$work/Zarvo" "Zarvo:de:$work/Zarvo" "Bare:en:$bench/zarvo_bench_bare"; do
-  title=${program%%:*}; rest=${program#*:}; language=${rest%%:*}; exe=${rest#*:}
-  results=$(for _ in $(seq "$runs"); do LANGUAGE=$language startup "$exe" "$title"; done)
-  echo "$title ($language): start-up to first shown window, median of $runs: $(echo "$results" | cut -d' ' -f1 | median) ms;" \
-       "peak memory (VmHWM), median: $(echo "$results" | cut -d' ' -f2 | median) kB"
+# The programs take turns, so that a passing load on the machine weighs on each alike.
+programs=("Zarvo:en:$work/Zarvo" "Zarvo:de:$work/Zarvo" "Bare:en:$bench/zarvo_bench_bare")
+for _ in $(seq "$runs"); do
+  for i in "${!programs[@]}"; do
+    title=${programs[i]%%:*}; rest=${programs[i]#*:}; language=${rest%%:*}; exe=${rest#*:}
+    LANGUAGE=$language startup "$exe" "$title" >> "$work/results.$i"
+  done
+done
+for i in "${!programs[@]}"; do
+  title=${programs[i]%%:*}; rest=${programs[i]#*:}; language=${rest%%:*}
+  echo "$title ($language): start-up to first shown window, median of $runs: $(cut -d' ' -f1 "$work/results.$i" | median) ms;" \
+       "peak memory (VmHWM), median: $(cut -d' ' -f2 "$work/results.$i" | median) kB"
 done
 
 "$work/Zarvo" & pid=$!
