@@ -16,17 +16,22 @@ public:
     using QFrame::QFrame;
 };
 
-QAccessibleInterface* DiceFieldAccessible(const QString&, QObject* object)
+// The game table is a frame with a title, as a main window is; the dice field an animation.
+QAccessibleInterface* TableAccessible(const QString&, QObject* object)
 {
+    if (auto* form = qobject_cast<frmMain*>(object))
+        return new QAccessibleWidget(form, QAccessible::Window);
     auto* field = dynamic_cast<DiceField*>(object);
     return field ? new QAccessibleWidget(field, QAccessible::Animation) : nullptr;
 }
 }
 
-QFrame* NewDiceField(QWidget* parent)
+QFrame* NewDiceField(QWidget* parent) { return new DiceField(parent); }
+
+SpokenTable::SpokenTable(frmMain& form, GameTable& logic) : form_(form), logic_(logic)
 {
-    QAccessible::installFactory(DiceFieldAccessible);   // once: Qt keeps each factory once
-    return new DiceField(parent);
+    // Before the window's first title: Qt keeps the first answer it gets for each widget.
+    QAccessible::installFactory(TableAccessible);   // once: Qt keeps each factory once
 }
 
 // While the player decides, a die in its column reads as a check box, checked when kept:

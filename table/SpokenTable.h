@@ -24,7 +24,7 @@ QFrame* NewDiceField(QWidget* parent);
 class SpokenTable {
     Q_DECLARE_TR_FUNCTIONS(SpokenTable)
 public:
-    SpokenTable(frmMain& form, GameTable& logic) : form_(form), logic_(logic) {}
+    SpokenTable(frmMain& form, GameTable& logic);
 
     // The names, kept up to date with the looks. A die is not named while it rolls.
     void NameDie(int i);

@@ -80,6 +80,7 @@ TEST_F(ScreenReader, FollowsTheCursorAndTellsEachRollAndScore)
     logic().RefreshScoreboard();
     form->mnuUseKeyboard->trigger();
     QCoreApplication::processEvents();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(form.get())->role(), QAccessible::Window);   // a frame with a title
     const QString tree = Names(QAccessible::queryAccessibleInterface(form.get()));   // the card's rows read with their cells
     EXPECT_TRUE(tree.contains("Player 1's turn. Please roll.|Die 1: on the pile|") && tree.contains("|Ones|Twos|Threes|")
                 && tree.contains("|Ones: open|Twos: open|") && tree.contains("|Zarvo: 50|Chance: open|Left: 0|Right: 50|Bonus: 0|Total: 50|"))
