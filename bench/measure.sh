@@ -24,11 +24,11 @@ median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$1/stat"; }
 
 startup() {   # program, window title -> "ms peak_kB"
-  local start pid ms
+  local start pid seen ms
   start=$(date +%s%N)
   "$1" & pid=$!
-  "$xwindow" wait "$2" 20 >/dev/null
-  ms=$(( ($(date +%s%N) - start) / 1000000 ))
+  seen=$("$xwindow" wait "$2" 20)
+  ms=$(awk -v d=$(( seen - start )) 'BEGIN {printf "%.1f", d / 1e6}')
   sleep 0.5
   echo "$ms $(awk '/VmHWM/ {print $2}' /proc/$pid/status)"
   kill $pid; wait $pid 2>/dev/null || true
