@@ -12,6 +12,7 @@ packages=(
   libqt6sql6-sqlite                # the help engine keeps its collection in SQLite
   libsqlite3-dev                   # the data file
   fonts-liberation                 # the windows' fonts, sans-serif and serif
+  libfontconfig-dev                # reads the desktop's font configuration at start
   libgtest-dev googletest          # tests
   xvfb xauth libx11-dev            # the smoke test of the real window
   desktop-file-utils appstream     # the install test validates the menu entry and metadata

@@ -12,6 +12,7 @@
 
 #include "Accessible.h"
 #include "AppPath.h"
+#include "FontSetup.h"
 #include "Look.h"
 #include "MsgBox.h"
 #include "Translate.h"
@@ -109,5 +110,6 @@ void InstallQtServices(QApplication& app)
     palette.setColor(QPalette::Window, Look::ButtonFace);
     palette.setColor(QPalette::Button, Look::ButtonFace);
     app.setPalette(palette);
+    ReadFontConfiguration();
     app.setFont(Look::DefaultFont());
 }

@@ -3,7 +3,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <fontconfig/fontconfig.h>
 #include <gtest/gtest.h>
+#include <set>
 
 #include "AppPath.h"
 #include "DateTime.h"
@@ -55,4 +57,32 @@ TEST(MsgBox, StyleAndAnswer)
         });
         EXPECT_EQ(QtMsgBox(text, style, "Zarvo - Confirm"), answer) << text;
     }
+}
+
+// The font configuration in force (the test's start reads it as the game's does) is the one fontconfig's own
+// start builds: the same rule files, so the same substitutions and rendering, and the same fonts.
+TEST(Services, FontConfigurationAsFontconfigBuildsIt)
+{
+    const auto files = [](FcConfig* config) {
+        std::set<std::string> names;
+        FcStrList* list = FcConfigGetConfigFiles(config);
+        while (const FcChar8* name = FcStrListNext(list))
+            names.insert(reinterpret_cast<const char*>(name));
+        FcStrListDone(list);
+        FcPattern* all = FcPatternCreate();
+        FcObjectSet* file = FcObjectSetBuild(FC_FILE, nullptr);
+        FcFontSet* fonts = FcFontList(config, all, file);
+        for (int i = 0; i < fonts->nfont; ++i)
+            if (FcChar8* path = nullptr; FcPatternGetString(fonts->fonts[i], FC_FILE, 0, &path) == FcResultMatch)
+                names.insert("font " + std::string(reinterpret_cast<const char*>(path)));
+        FcFontSetDestroy(fonts);
+        FcObjectSetDestroy(file);
+        FcPatternDestroy(all);
+        return names;
+    };
+    FcConfig* own = FcInitLoadConfigAndFonts();
+    const std::set<std::string> expected = files(own);
+    FcConfigDestroy(own);
+    EXPECT_EQ(files(FcConfigGetCurrent()), expected);
+    EXPECT_TRUE(expected.count("font /usr/share/fonts/truetype/liberation/LiberationSansNarrow-Regular.ttf"));
 }
