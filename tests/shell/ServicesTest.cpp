@@ -60,7 +60,7 @@ TEST(MsgBox, StyleAndAnswer)
 }
 
 // The font configuration in force (the test's start reads it as the game's does) is the one fontconfig's own
-// start builds: the same rule files, so the same substitutions and rendering, and the same fonts.
+// start builds: the same rule files, so the same substitutions and rendering, and the same fonts...
 TEST(Services, FontConfigurationAsFontconfigBuildsIt)
 {
     const auto files = [](FcConfig* config) {
@@ -83,6 +83,16 @@ TEST(Services, FontConfigurationAsFontconfigBuildsIt)
     FcConfig* own = FcInitLoadConfigAndFonts();
     const std::set<std::string> expected = files(own);
     FcConfigDestroy(own);
-    EXPECT_EQ(files(FcConfigGetCurrent()), expected);
+    FcConfig* current = FcConfigGetCurrent();
+    EXPECT_EQ(files(current), expected);
     EXPECT_TRUE(expected.count("font /usr/share/fonts/truetype/liberation/LiberationSansNarrow-Regular.ttf"));
+    // ...but without reading the rule files that are not in force, as fontconfig's own start does for its listing.
+    int unused = 0;
+    FcConfigFileInfoIter file;
+    FcConfigFileInfoIterInit(current, &file);
+    do
+        if (FcBool used = FcTrue; FcConfigFileInfoIterGet(current, &file, nullptr, nullptr, &used) && !used)
+            ++unused;
+    while (FcConfigFileInfoIterNext(current, &file));
+    EXPECT_EQ(unused, 0);
 }
