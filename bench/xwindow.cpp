@@ -70,16 +70,18 @@ int main(int argc, char* argv[])
         XSelectInput(display, root, SubstructureNotifyMask);
         XSync(display, False);
         timespec seen{};
-        clock_gettime(CLOCK_REALTIME, &seen);
-        Window found = FindMapped(display, root, name);
+        const auto look = [&](Window window) {   // notes when, then whether the window is there
+            clock_gettime(CLOCK_REALTIME, &seen);
+            return FindMapped(display, window, name);
+        };
+        Window found = look(root);
         for (auto walked = std::chrono::steady_clock::now(); !found;) {
             const auto now = std::chrono::steady_clock::now();
             if (now > limit)
                 return 1;
             if (now - walked > std::chrono::milliseconds(50)) {
                 walked = now;
-                clock_gettime(CLOCK_REALTIME, &seen);
-                found = FindMapped(display, root, name);
+                found = look(root);
                 continue;
             }
             pollfd x{ConnectionNumber(display), POLLIN, 0};
@@ -87,9 +89,8 @@ int main(int argc, char* argv[])
                 poll(&x, 1, 50);
             for (XEvent event; !found && XPending(display);) {
                 XNextEvent(display, &event);
-                clock_gettime(CLOCK_REALTIME, &seen);
                 if (event.type == MapNotify)
-                    found = FindMapped(display, event.xmap.window, name);
+                    found = look(event.xmap.window);
             }
         }
         std::printf("%lld\n", static_cast<long long>(seen.tv_sec) * 1000000000LL + seen.tv_nsec);
