@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Measures what a desktop player notices, under Xvfb, after a build (bash scripts/build.sh):
-# start-up to the first shown window and peak memory (against a bare Qt window in the same
-# run), in English and in German, with every language installed beside the game; idle CPU
-# over 10 s while the game waits for a roll, and the real length of a roll.
+# start-up to the first shown window and peak memory (against a bare Qt window, and one showing
+# a single label, in the same run), in English and in German, with every language installed
+# beside the game; idle CPU over 10 s while the game waits for a roll, and the real length of a
+# roll.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
@@ -23,11 +24,12 @@ work=$1; bench=$2; xwindow=$3; runs=$4
 median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
 cpu_ticks() { awk '{print $14 + $15}' "/proc/$1/stat"; }
 
-startup() {   # program, window title -> "ms peak_kB"
-  local start pid seen ms
+startup() {   # window title, program and its arguments -> "ms peak_kB"
+  local title=$1 start pid seen ms
+  shift
   start=$(date +%s%N)
-  "$1" & pid=$!
-  seen=$("$xwindow" wait "$2" 20)
+  "$@" & pid=$!
+  seen=$("$xwindow" wait "$title" 20)
   ms=$(awk -v d=$(( seen - start )) 'BEGIN {printf "%.1f", d / 1e6}')
   sleep 0.5
   echo "$ms $(awk '/VmHWM/ {print $2}' /proc/$pid/status)"
@@ -35,18 +37,27 @@ startup() {   # program, window title -> "ms peak_kB"
   sleep 0.2   # the display server tidies up after the program before the next one starts
 }
 
+# The bound is against the bare window; the window with one label shows what no window with
+# text gets below.
+names=("Zarvo (en)" "Zarvo (de)" "Bare window" "Window with one label")
+run() {   # program number
+  case $1 in
+    0) LANGUAGE=en startup Zarvo "$work/Zarvo" ;;
+    1) LANGUAGE=de startup Zarvo "$work/Zarvo" ;;
+    2) LANGUAGE=en startup Bare "$bench/zarvo_bench_bare" ;;
+    3) LANGUAGE=en startup Label "$bench/zarvo_bench_bare" "Player 1" ;;
+  esac
+}
 # The programs take turns, so that a passing load on the machine weighs on each alike.
-programs=("Zarvo:en:$work/Zarvo" "Zarvo:de:$work/Zarvo" "Bare:en:$bench/zarvo_bench_bare")
 for _ in $(seq "$runs"); do
-  for i in "${!programs[@]}"; do
-    title=${programs[i]%%:*}; rest=${programs[i]#*:}; language=${rest%%:*}; exe=${rest#*:}
-    LANGUAGE=$language startup "$exe" "$title" >> "$work/results.$i"
-  done
+  for i in "${!names[@]}"; do run "$i" >> "$work/results.$i"; done
 done
-for i in "${!programs[@]}"; do
-  title=${programs[i]%%:*}; rest=${programs[i]#*:}; language=${rest%%:*}
-  echo "$title ($language): start-up to first shown window, median of $runs: $(cut -d' ' -f1 "$work/results.$i" | median) ms;" \
-       "peak memory (VmHWM), median: $(cut -d' ' -f2 "$work/results.$i" | median) kB"
+figure() { cut -d' ' -f"$1" "$work/results.$2" | median; }   # column (1 ms, 2 kB), program
+times() { awk -v a="$1" -v b="$2" 'BEGIN {printf "%.2f", a / b}'; }
+for i in "${!names[@]}"; do
+  ms=$(figure 1 "$i"); kb=$(figure 2 "$i")
+  echo "${names[i]}: start-up to first shown window, median of $runs: $ms ms ($(times "$ms" "$(figure 1 2)")×" \
+       "the bare window); peak memory (VmHWM), median: $kb kB ($(times "$kb" "$(figure 2 2)")×)"
 done
 
 "$work/Zarvo" & pid=$!
