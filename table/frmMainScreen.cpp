@@ -98,7 +98,8 @@ int frmMain::DieTop(int i) const { return PlaceOf(imgDie[i]).top; }
 void frmMain::SetDieTop(int i, int top) { PlaceDie(i, DieLeft(i), top); }
 void frmMain::PlaceDie(int i, int left, int top)
 {
-    Place(imgDie[i], {left, top, PlaceOf(imgDie[i]).width, PlaceOf(imgDie[i]).height});
+    const TwipRect place = PlaceOf(imgDie[i]);
+    Place(imgDie[i], {left, top, place.width, place.height});
     voice_.NameDie(i);
 }
 void frmMain::SetDieVisible(int i, bool visible) { imgDie[i]->setVisible(visible); }
